@@ -1,0 +1,56 @@
+#pragma once
+#include "core/ole_color.h"
+#include "core/string.h"
+#include <cstdint>
+
+namespace tolva {
+
+// A font as the drawing backends create it. height follows the GDI convention: positive is the
+// cell height in pixels, negative the character (em) height in pixels.
+struct CanvasFont {
+    String face = u"MS Sans Serif";
+    int32_t height = -11;
+    int32_t weight = 400;
+    bool italic = false;
+    bool underline = false;
+    bool strikeOut = false;
+    uint8_t charSet = 0;
+
+    bool operator==(const CanvasFont&) const = default;
+};
+
+struct TextExtent {
+    int32_t width = 0;
+    int32_t height = 0;
+};
+
+// An off-screen bitmap in pixels. Every drawing object a backend needs for a call is made and
+// released inside that call, so nothing accumulates with the number of repaints.
+class Canvas {
+public:
+    virtual ~Canvas() = default;
+
+    virtual int32_t Width() const = 0;
+    virtual int32_t Height() const = 0;
+
+    // Fills left <= x < right, top <= y < bottom.
+    virtual void FillRect(int32_t left, int32_t top, int32_t right, int32_t bottom, ColorRef color) = 0;
+
+    // A one-pixel solid line from (x1, y1) towards (x2, y2); the end point is not drawn.
+    virtual void Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef color) = 0;
+
+    // Text with a transparent background, its cell's top-left corner at (x, y).
+    virtual void DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color) = 0;
+    virtual TextExtent MeasureText(StringView text, const CanvasFont& font) = 0;
+
+    // The RGB value of a system colour index (the low byte of a system OLE colour).
+    virtual ColorRef SystemColor(int index) const = 0;
+};
+
+// Resolves an OLE colour to RGB the way the picture-box primitives do.
+inline ColorRef TranslateColor(const Canvas& canvas, OleColor color)
+{
+    return IsSystemColor(color) ? canvas.SystemColor(SystemColorIndex(color)) : ColorRef(color & 0xFFFFFF);
+}
+
+} // namespace tolva
