@@ -1,10 +1,13 @@
 #pragma once
 #include "controls/command/tolva_command_events.h"
+#include "core/caption.h"
+#include "core/click_forwarding.h"
 #include "core/control_site.h"
 #include "core/mouse_state.h"
 #include "core/ole_color.h"
 #include "core/property_bag.h"
 #include "core/surface.h"
+#include "core/twips_canvas.h"
 
 namespace tolva {
 
@@ -20,7 +23,7 @@ enum : int32_t { tkLeft = 0, tkCenter = 1 };
 // A flat push button: a one-pixel black frame, a background that follows the mouse, a caption
 // with an optional access key, focus and default marks, and in menu style a drop-down mark and
 // a pop-up menu of its parent form under it.
-class TolvaCommand final : private SurfaceListener {
+class TolvaCommand final : private SurfaceListener, private ClickTarget {
 public:
     TolvaCommand(Surface& surface, ControlSite& site);
     ~TolvaCommand() override;
@@ -81,22 +84,43 @@ private:
     void OnGotFocus() override;
     void OnLostFocus() override;
 
+    // The shared mouse steps call back here.
+    void Repaint() override;
+    void Clicked() override;
+    void RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y) override;
+    void RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y) override;
+    void RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y) override;
+
+    // The setter pattern after the value is stored: tell the designer, then repaint.
+    void PropertyChanged(StringView key);
+
     void DrawButton();
+    void PrintCaption(const ScannedCaption& caption);
+    void DrawDropDownMark();
     void ShowMenu();
 
     static inline TolvaCommandEvents s_noEvents;
 
+    // The defaults of a new button and of a property bag without the key.
+    static constexpr OleColor DefaultBackColor = 0xCEDBDE;
+    static constexpr OleColor DefaultBackColorActive = 0xDEE7EF;
+    static constexpr OleColor DefaultBackColorPushed = 0xBDCBCE;
+    static constexpr OleColor DefaultForeColorDisabled = 0x8C969C;
+    static constexpr OleColor DefaultForeColor = SystemColor::ButtonText;
+    static constexpr const char16_t* DefaultCaption = u"Command";
+
     Surface& m_surface;
     ControlSite& m_site;
+    TwipsCanvas m_picBuffer;
     TolvaCommandEvents* m_events = &s_noEvents;
 
     int32_t m_alignment = tkCommandAlignment::tkLeft;
-    OleColor m_backColor = 0xCEDBDE;
-    OleColor m_backColorActive = 0xDEE7EF;
-    OleColor m_backColorPushed = 0xBDCBCE;
-    OleColor m_foreColorDisabled = 0x8C969C;
+    OleColor m_backColor = DefaultBackColor;
+    OleColor m_backColorActive = DefaultBackColorActive;
+    OleColor m_backColorPushed = DefaultBackColorPushed;
+    OleColor m_foreColorDisabled = DefaultForeColorDisabled;
     String m_menuName;
-    String m_caption = u"Command";
+    String m_caption = DefaultCaption;
     int32_t m_style = tkStyle::tkNormal;
     bool m_hasFocus = false;
     MouseState m_mouse;

@@ -1,0 +1,37 @@
+#include "core/click_forwarding.h"
+
+namespace tolva::ClickForwarding {
+
+namespace {
+constexpr int16_t LeftButton = 1;
+}
+
+void MouseDown(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
+{
+    if (button == LeftButton) {
+        state.pushed = true;
+        target.Repaint();
+    }
+    target.RaiseMouseDown(button, shift, x, y);
+}
+
+void MouseMove(
+    Surface& surface, MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
+{
+    UpdateHover(surface, state, x, y);
+    target.Repaint();
+    target.RaiseMouseMove(button, shift, x, y);
+}
+
+void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
+{
+    if (button == LeftButton) {
+        state.pushed = false;
+        state.hot = false;
+        target.Repaint();
+        target.Clicked();
+    }
+    target.RaiseMouseUp(button, shift, x, y);
+}
+
+} // namespace tolva::ClickForwarding

@@ -1,0 +1,40 @@
+#pragma once
+#include "core/mouse_state.h"
+#include "core/surface.h"
+#include <cstdint>
+
+namespace tolva {
+
+// What the shared mouse steps need from a clickable control: its paint routine, its click and
+// the three forwarded mouse events (arguments by reference, as the host's sink receives them).
+class ClickTarget {
+public:
+    virtual void Repaint() = 0;
+    // The control's Click event followed by its click action (a pop-up menu, for instance).
+    virtual void Clicked() = 0;
+    virtual void RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y) = 0;
+    virtual void RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y) = 0;
+    virtual void RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y) = 0;
+
+protected:
+    ~ClickTarget() = default;
+};
+
+// Turns a surface's mouse notifications into the pushed and hot looks, repaints and events.
+// Nothing here holds state across a raised event, so handlers may call back into the control.
+namespace ClickForwarding {
+
+// A left press shows the pushed look; every button is then forwarded as MouseDown.
+void MouseDown(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
+
+// The hover test and a repaint on every move, hot or not, then MouseMove.
+void MouseMove(
+    Surface& surface, MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
+
+// A left release clears both looks, repaints and clicks wherever the pointer is now (a press
+// dragged off the control still clicks); every button is then forwarded as MouseUp.
+void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
+
+} // namespace ClickForwarding
+
+} // namespace tolva
