@@ -68,4 +68,8 @@ private:
 // character height.
 CanvasFont ToCanvasFont(const Font& font);
 
+// The font's point size bounded to what drawing can take (0 to 2000; 0 for a size that is not
+// a number), since sizes come from property bags.
+double DrawableSize(const Font& font);
+
 } // namespace tolva
