@@ -1,0 +1,35 @@
+#pragma once
+#include "core/control_site.h"
+#include "core/surface.h"
+
+namespace tolva {
+
+// The site a control gives the controls it embeds on its own surface. The embedding control is
+// their designer, so their PropertyChanged calls go nowhere; ambients, the parent form and the
+// modal services are the embedding control's own; the extender is the child window itself.
+class ChildSite final : public ControlSite {
+public:
+    ChildSite(ControlSite& container, const Surface& child, String name);
+
+    void PropertyChanged(StringView key) override;
+
+    Font AmbientFont() override;
+    bool UserMode() override;
+    bool DisplayAsDefault() override; // an embedded part is never the form's default button
+
+    String ExtenderName() override;
+    float ExtenderWidth() override;
+    float ExtenderHeight() override;
+    ParentForm* Parent() override;
+
+    int MessageBox(StringView prompt, int style) override;
+    void Beep() override;
+    void ShowAboutBox() override;
+
+private:
+    ControlSite& m_container;
+    const Surface& m_child;
+    String m_name;
+};
+
+} // namespace tolva
