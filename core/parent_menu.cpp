@@ -1,22 +1,18 @@
 #include "core/parent_menu.h"
 #include "core/automation_error.h"
-#include <limits>
+#include "core/long_arithmetic.h"
 
 namespace tolva {
 
 namespace {
 
-int32_t CheckedLong(int64_t value)
-{
-    if (value < std::numeric_limits<int32_t>::min() || value > std::numeric_limits<int32_t>::max())
-        throw AutomationError::RunTime(RunTimeError::Overflow);
-    return int32_t(value);
-}
-
-// (a - b) * 15 with each step checked, so an overflow in the difference is caught as well.
+// (a - b) * 15 with each step checked as the form language checks its Long arithmetic.
 int32_t TwipsBetween(int32_t a, int32_t b)
 {
-    return CheckedLong(int64_t(CheckedLong(int64_t(a) - b)) * 15);
+    int32_t twips = 0;
+    if (__builtin_mul_overflow(CheckedSubtract(a, b), 15, &twips))
+        throw AutomationError::RunTime(RunTimeError::Overflow);
+    return twips;
 }
 
 } // namespace

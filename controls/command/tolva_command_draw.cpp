@@ -1,7 +1,5 @@
 #include "controls/command/tolva_command.h"
-#include <algorithm>
-#include <cmath>
-#include <limits>
+#include "core/long_arithmetic.h"
 
 namespace tolva {
 
@@ -10,13 +8,10 @@ namespace {
 constexpr OleColor Black = Rgb(0, 0, 0);
 constexpr OleColor Grey = Rgb(128, 128, 128);
 
-// The form language's integer division v \ 2: v is first rounded to a whole number, halves to
-// even, as a 32-bit value.
+// The form language's integer division v \ 2, which first rounds v to a Long.
 int32_t HalfAsLong(float v)
 {
-    constexpr double low = std::numeric_limits<int32_t>::min();
-    constexpr double high = std::numeric_limits<int32_t>::max();
-    return int32_t(std::clamp(std::nearbyint(double(v)), low, high)) / 2;
+    return RoundToLong(v) / 2;
 }
 
 } // namespace
