@@ -1,0 +1,47 @@
+#pragma once
+#include "core/control_site.h"
+#include "platform/headless/test_parent_form.h"
+#include <vector>
+
+namespace tolva::headless {
+
+// A container for tests: answers with the values set in its members and records every call.
+// Without a parent form, Parent() is nullptr.
+class TestSite final : public ControlSite {
+public:
+    struct MessageBoxCall {
+        String prompt;
+        int style = 0;
+        bool operator==(const MessageBoxCall&) const = default;
+    };
+
+    void PropertyChanged(StringView key) override { propertyChanges.emplace_back(key); }
+    Font AmbientFont() override { return ambientFont; }
+    bool UserMode() override { return userMode; }
+    bool DisplayAsDefault() override { return displayAsDefault; }
+    String ExtenderName() override { return extenderName; }
+    float ExtenderWidth() override { return extenderWidth; }
+    float ExtenderHeight() override { return extenderHeight; }
+    ParentForm* Parent() override { return parent; }
+    int MessageBox(StringView prompt, int style) override;
+    void Beep() override { ++beeps; }
+    void ShowAboutBox() override { ++aboutBoxes; }
+
+    // Answers.
+    Font ambientFont;
+    bool userMode = true;
+    bool displayAsDefault = false;
+    String extenderName;
+    float extenderWidth = 0;
+    float extenderHeight = 0;
+    TestParentForm* parent = nullptr;
+    int messageBoxAnswer = 1; // OK
+
+    // Records.
+    std::vector<String> propertyChanges;
+    std::vector<MessageBoxCall> messageBoxes;
+    int beeps = 0;
+    int aboutBoxes = 0;
+};
+
+} // namespace tolva::headless
