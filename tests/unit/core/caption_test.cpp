@@ -1,0 +1,140 @@
+#include "core/caption.h"
+#include "core/twips_canvas.h"
+#include "platform/headless/headless_surface.h"
+#include <gtest/gtest.h>
+#include <optional>
+
+namespace tolva {
+namespace {
+
+using headless::HeadlessSurface;
+using headless::RasterCanvas;
+using headless::WindowTree;
+
+TEST(ScanCaption, ADoubledAmpersandIsOneAmpersandAndNoKey)
+{
+    const ScannedCaption scanned = ScanCaption(u"Save && Close");
+    EXPECT_EQ(scanned.text, u"Save & Close");
+    EXPECT_FALSE(scanned.HasAccessKey());
+    EXPECT_EQ(scanned.Before(), u"Save & Close");
+    EXPECT_EQ(scanned.After(), u"");
+}
+
+TEST(ScanCaption, AnAmpersandMarksTheNextCharacter)
+{
+    const ScannedCaption scanned = ScanCaption(u"E&xit");
+    EXPECT_EQ(scanned.text, u"Exit");
+    EXPECT_EQ(scanned.accessPosition, 2);
+    EXPECT_EQ(scanned.AccessCharacter(), u'x');
+    EXPECT_EQ(scanned.Before(), u"E");
+    EXPECT_EQ(scanned.After(), u"it");
+    EXPECT_EQ(ScanCaption(u"&x").accessPosition, 1);
+}
+
+TEST(ScanCaption, ATrailingAmpersandIsDropped)
+{
+    EXPECT_EQ(ScanCaption(u"Total&"), (ScannedCaption { u"Total", 0 }));
+    EXPECT_EQ(ScanCaption(u"&"), (ScannedCaption { u"", 0 }));
+    EXPECT_EQ(ScanCaption(u"a&&&"), (ScannedCaption { u"a&", 0 }));
+}
+
+TEST(ScanCaption, ALaterMarkOverridesAnEarlierOne)
+{
+    EXPECT_EQ(ScanCaption(u"&Open &File"), (ScannedCaption { u"Open File", 6 }));
+    EXPECT_EQ(ScanCaption(u"&&&x"), (ScannedCaption { u"&x", 2 }));
+    EXPECT_EQ(ScanCaption(u"&a&&b"), (ScannedCaption { u"a&b", 1 }));
+}
+
+TEST(ScanCaption, SetsOrClearsTheSurfacesAccessKeys)
+{
+    WindowTree tree;
+    HeadlessSurface surface(tree);
+    ScanCaption(u"&Print", surface);
+    EXPECT_EQ(surface.AccessKeys(), u"P");
+    ScanCaption(u"A && B", surface);
+    EXPECT_EQ(surface.AccessKeys(), u"");
+}
+
+// The first column holding the colour at or after fromX on any row, if any.
+std::optional<int32_t> FirstColumnWith(const RasterCanvas& canvas, ColorRef color, int32_t fromX = 0)
+{
+    for (int32_t x = fromX; x < canvas.Width(); ++x) {
+        for (int32_t y = 0; y < canvas.Height(); ++y) {
+            if (canvas.Pixel(x, y) == color)
+                return x;
+        }
+    }
+    return std::nullopt;
+}
+
+class DrawCaptionTextTest : public ::testing::Test {
+protected:
+    DrawCaptionTextTest() { surface.SetFont(Font {}); }
+
+    // The left edge of the second of two identical glyphs drawn from x = 5.
+    int32_t SecondGlyphColumn(int32_t letterSpacing)
+    {
+        RasterCanvas canvas(80, 30);
+        DrawCaptionText(canvas, surface, u"ll", { 5, 2, 80, 30 }, letterSpacing, Ink);
+        const int32_t first = *FirstColumnWith(canvas, Ink);
+        int32_t x = first;
+        while (FirstColumnWith(canvas, Ink, x) == x)
+            ++x; // past the first glyph's stem
+        return *FirstColumnWith(canvas, Ink, x);
+    }
+
+    static constexpr ColorRef Ink = 0x0000FF;
+    WindowTree tree;
+    HeadlessSurface surface { tree };
+};
+
+TEST_F(DrawCaptionTextTest, StepsEachCharacterByItsWidthInTheSurfacesFontPlusTheSpacing)
+{
+    RasterCanvas canvas(10, 10);
+    const int32_t advance = canvas.MeasureText(u"l", ToCanvasFont(surface.GetFont())).width;
+    ASSERT_GT(advance, 0);
+    const int32_t tight = SecondGlyphColumn(0);
+    EXPECT_EQ(SecondGlyphColumn(2), tight + 2);
+    EXPECT_EQ(MeasureCaptionText(canvas, surface, u"ll", 0), 2 * advance);
+    EXPECT_EQ(MeasureCaptionText(canvas, surface, u"ll", 2), 2 * advance + 4);
+    // Marks take no room: "&l&&" is drawn as "l&".
+    const int32_t ampersand = canvas.MeasureText(u"&", ToCanvasFont(surface.GetFont())).width;
+    EXPECT_EQ(MeasureCaptionText(canvas, surface, u"&l&&", 2), advance + ampersand + 4);
+}
+
+TEST_F(DrawCaptionTextTest, UnderlinesOnlyTheAccessCharacterAndSetsTheAccessKey)
+{
+    RasterCanvas plain(80, 30), marked(80, 30);
+    DrawCaptionText(plain, surface, u"xx", { 0, 0, 80, 30 }, 0, Ink);
+    DrawCaptionText(marked, surface, u"x&x", { 0, 0, 80, 30 }, 0, Ink);
+    EXPECT_EQ(surface.AccessKeys(), u"x");
+    const int32_t advance = plain.MeasureText(u"x", ToCanvasFont(surface.GetFont())).width;
+    int differencesInFirst = 0, differencesInSecond = 0;
+    for (int32_t y = 0; y < 30; ++y) {
+        for (int32_t x = 0; x < 80; ++x) {
+            if (plain.Pixel(x, y) != marked.Pixel(x, y))
+                ++(x < advance ? differencesInFirst : differencesInSecond);
+        }
+    }
+    EXPECT_EQ(differencesInFirst, 0);
+    EXPECT_GT(differencesInSecond, 0);
+}
+
+TEST_F(DrawCaptionTextTest, DrawsWithACellHeightOf16TenthsOfAPixelPerPoint)
+{
+    Font big;
+    big.size = 20; // a cell of 32 pixels, against 27 at the surface's usual 96 dots per inch
+    surface.SetFont(big);
+    CanvasFont cell = ToCanvasFont(big);
+    cell.height = 32;
+    RasterCanvas drawn(60, 60), expected(60, 60);
+    DrawCaptionText(drawn, surface, u"H", { 3, 4, 60, 60 }, 0, Ink);
+    expected.DrawText(3, 4, u"H", cell, Ink);
+    for (int32_t y = 0; y < 60; ++y) {
+        for (int32_t x = 0; x < 60; ++x)
+            ASSERT_EQ(drawn.Pixel(x, y), expected.Pixel(x, y)) << x << "," << y;
+    }
+}
+
+} // namespace
+} // namespace tolva

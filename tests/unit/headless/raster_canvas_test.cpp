@@ -1,0 +1,254 @@
+#include "platform/headless/raster_canvas.h"
+#include <gtest/gtest.h>
+#include <set>
+#include <stdexcept>
+
+namespace tolva::headless {
+namespace {
+
+constexpr ColorRef Ink = 0x00FF00;
+
+using Points = std::set<std::pair<int32_t, int32_t>>;
+
+Points LitPixels(const RasterCanvas& canvas)
+{
+    Points lit;
+    for (int32_t y = 0; y < canvas.Height(); ++y) {
+        for (int32_t x = 0; x < canvas.Width(); ++x) {
+            if (canvas.Pixel(x, y) != 0)
+                lit.insert({ x, y });
+        }
+    }
+    return lit;
+}
+
+Points LineOn(int32_t x1, int32_t y1, int32_t x2, int32_t y2)
+{
+    RasterCanvas canvas(12, 12);
+    canvas.Line(x1, y1, x2, y2, Ink);
+    return LitPixels(canvas);
+}
+
+TEST(RasterCanvas, StartsBlackAndAnswersOutsidePixelsWithAnError)
+{
+    RasterCanvas canvas(3, 2);
+    EXPECT_EQ(canvas.Width(), 3);
+    EXPECT_EQ(canvas.Height(), 2);
+    EXPECT_TRUE(LitPixels(canvas).empty());
+    EXPECT_THROW(canvas.Pixel(3, 0), std::out_of_range);
+    EXPECT_THROW(canvas.Pixel(0, -1), std::out_of_range);
+}
+
+TEST(RasterCanvas, ClampsSizesFromOutside)
+{
+    EXPECT_EQ(RasterCanvas(-5, 4).Width(), 0);
+    EXPECT_EQ(RasterCanvas(1, 100000).Height(), RasterCanvas::MaxSide);
+}
+
+TEST(RasterCanvas, FillRectExcludesTheRightAndBottomEdges)
+{
+    RasterCanvas canvas(6, 6);
+    canvas.FillRect(1, 2, 4, 3, Ink);
+    EXPECT_EQ(LitPixels(canvas), (Points { { 1, 2 }, { 2, 2 }, { 3, 2 } }));
+}
+
+TEST(RasterCanvas, FillRectClipsAndIgnoresEmptyRectangles)
+{
+    RasterCanvas canvas(4, 4);
+    canvas.FillRect(3, 3, 2, 2, Ink);
+    canvas.FillRect(10, 0, 20, 4, Ink);
+    EXPECT_TRUE(LitPixels(canvas).empty());
+    canvas.FillRect(-100, -100, 100, 100, Ink);
+    EXPECT_EQ(LitPixels(canvas).size(), 16u);
+}
+
+TEST(RasterCanvas, HorizontalAndVerticalLinesLeaveOutTheirEndPoint)
+{
+    EXPECT_EQ(LineOn(1, 3, 5, 3), (Points { { 1, 3 }, { 2, 3 }, { 3, 3 }, { 4, 3 } }));
+    EXPECT_EQ(LineOn(5, 3, 1, 3), (Points { { 5, 3 }, { 4, 3 }, { 3, 3 }, { 2, 3 } }));
+    EXPECT_EQ(LineOn(2, 1, 2, 4), (Points { { 2, 1 }, { 2, 2 }, { 2, 3 } }));
+    EXPECT_EQ(LineOn(2, 4, 2, 1), (Points { { 2, 4 }, { 2, 3 }, { 2, 2 } }));
+    EXPECT_TRUE(LineOn(3, 3, 3, 3).empty());
+    EXPECT_EQ(LineOn(3, 3, 4, 3), (Points { { 3, 3 } }));
+}
+
+TEST(RasterCanvas, DiagonalLinesStepOnePixelEachWay)
+{
+    EXPECT_EQ(LineOn(0, 0, 4, 4), (Points { { 0, 0 }, { 1, 1 }, { 2, 2 }, { 3, 3 } }));
+    EXPECT_EQ(LineOn(4, 0, 0, 4), (Points { { 4, 0 }, { 3, 1 }, { 2, 2 }, { 1, 3 } }));
+    EXPECT_EQ(LineOn(3, 3, 0, 0), (Points { { 3, 3 }, { 2, 2 }, { 1, 1 } }));
+}
+
+TEST(RasterCanvas, SlopedLinesBreakTiesByDirectionAsGdiDoes)
+{
+    // GDI breaks ties between two pixels differently by direction, so that a line and its
+    // reverse light the same pixels.
+    EXPECT_EQ(LineOn(0, 0, 4, 2), (Points { { 0, 0 }, { 1, 0 }, { 2, 1 }, { 3, 1 } }));
+    EXPECT_EQ(LineOn(4, 2, 0, 0), (Points { { 4, 2 }, { 3, 1 }, { 2, 1 }, { 1, 0 } }));
+    EXPECT_EQ(LineOn(0, 0, 2, 4), (Points { { 0, 0 }, { 0, 1 }, { 1, 2 }, { 1, 3 } }));
+    EXPECT_EQ(LineOn(0, 0, 6, 2), (Points { { 0, 0 }, { 1, 0 }, { 2, 1 }, { 3, 1 }, { 4, 1 }, { 5, 2 } }));
+}
+
+TEST(RasterCanvas, FarAwayLinesAreClippedWithoutWalkingTheirLength)
+{
+    RasterCanvas canvas(10, 10);
+    canvas.Line(-2000000000, 5, 2000000000, 5, Ink);
+    canvas.Line(7, 2000000000, 7, -2000000000, Ink);
+    const Points lit = LitPixels(canvas);
+    EXPECT_EQ(lit.size(), 19u);
+    EXPECT_TRUE(lit.count({ 0, 5 }) && lit.count({ 9, 5 }) && lit.count({ 7, 0 }) && lit.count({ 7, 9 }));
+}
+
+class RasterTextTest : public ::testing::Test {
+protected:
+    static CanvasFont Font(int32_t height)
+    {
+        CanvasFont font;
+        font.face = u"Arial";
+        font.height = height;
+        return font;
+    }
+
+    RasterCanvas canvas { 120, 40 };
+};
+
+TEST_F(RasterTextTest, MeasuresTheAdvanceWidthAndTheCellHeight)
+{
+    const TextExtent a = canvas.MeasureText(u"A", Font(-11));
+    const TextExtent b = canvas.MeasureText(u"b", Font(-11));
+    const TextExtent ab = canvas.MeasureText(u"Ab", Font(-11));
+    EXPECT_GT(a.width, 0);
+    EXPECT_EQ(ab.width, a.width + b.width);
+    EXPECT_EQ(ab.height, a.height);
+    EXPECT_EQ(canvas.MeasureText(u"", Font(-11)).width, 0);
+    EXPECT_EQ(canvas.MeasureText(u"", Font(-11)).height, a.height);
+    // An 11-pixel em of Liberation Sans has a cell of 10 + 2 pixels.
+    EXPECT_EQ(a.height, 12);
+    EXPECT_GT(canvas.MeasureText(u"A", Font(-22)).width, a.width);
+}
+
+TEST_F(RasterTextTest, APositiveHeightIsTheCellHeight)
+{
+    EXPECT_LT(canvas.MeasureText(u"x", Font(12)).height, canvas.MeasureText(u"x", Font(-12)).height);
+    EXPECT_NEAR(canvas.MeasureText(u"x", Font(24)).height, 24, 1);
+    EXPECT_NEAR(canvas.MeasureText(u"x", Font(13)).height, 13, 1);
+}
+
+TEST_F(RasterTextTest, DrawsOnlyTheTextColourInsideTheCellWithoutTouchingTheBackground)
+{
+    canvas.FillRect(0, 0, 120, 40, 0x123456);
+    canvas.DrawText(10, 5, u"Wg", Font(-11), Ink);
+    const TextExtent extent = canvas.MeasureText(u"Wg", Font(-11));
+    int inked = 0;
+    for (int32_t y = 0; y < 40; ++y) {
+        for (int32_t x = 0; x < 120; ++x) {
+            const ColorRef pixel = canvas.Pixel(x, y);
+            ASSERT_TRUE(pixel == Ink || pixel == 0x123456) << "anti-aliased pixel at " << x << "," << y;
+            if (pixel == Ink) {
+                ++inked;
+                EXPECT_GE(y, 5);
+                EXPECT_LT(y, 5 + extent.height);
+                EXPECT_GE(x, 10);
+                EXPECT_LT(x, 10 + extent.width + 1);
+            }
+        }
+    }
+    EXPECT_GT(inked, 10);
+}
+
+TEST_F(RasterTextTest, RendersTheSameTextToTheSamePixels)
+{
+    RasterCanvas other(120, 40);
+    canvas.DrawText(3, 3, u"Command1", Font(-11), Ink);
+    other.DrawText(3, 3, u"Command1", Font(-11), Ink);
+    EXPECT_EQ(LitPixels(canvas), LitPixels(other));
+}
+
+TEST_F(RasterTextTest, UnderlineIsOneRowBelowTheBaselineAsLongAsTheAdvance)
+{
+    CanvasFont underlined = Font(-11);
+    underlined.underline = true;
+    RasterCanvas plain(120, 40);
+    plain.DrawText(10, 5, u"mm", Font(-11), Ink);
+    canvas.DrawText(10, 5, u"mm", underlined, Ink);
+    const int32_t width = canvas.MeasureText(u"mm", Font(-11)).width;
+    std::set<int32_t> rows;
+    for (const auto& [x, y] : LitPixels(canvas)) {
+        if (plain.Pixel(x, y) == 0)
+            rows.insert(y);
+    }
+    ASSERT_EQ(rows.size(), 1u);
+    const int32_t row = *rows.begin();
+    EXPECT_GT(row, 5 + 6); // below the body of the letters
+    EXPECT_LT(row, 5 + 12); // inside the cell
+    for (int32_t x = 10; x < 10 + width; ++x)
+        EXPECT_EQ(canvas.Pixel(x, row), Ink) << x;
+    EXPECT_EQ(canvas.Pixel(9, row), 0u);
+    EXPECT_EQ(canvas.Pixel(10 + width, row), 0u);
+}
+
+TEST_F(RasterTextTest, StrikeOutCrossesTheMiddleOfTheLetters)
+{
+    CanvasFont struck = Font(-11);
+    struck.strikeOut = true;
+    canvas.DrawText(0, 0, u"__", struck, Ink); // nothing of "_" is near the middle
+    const int32_t width = canvas.MeasureText(u"__", struck).width;
+    int32_t strikeRow = -1;
+    for (int32_t y = 0; y < 8; ++y) {
+        if (canvas.Pixel(width / 2, y) == Ink)
+            strikeRow = y;
+    }
+    EXPECT_GE(strikeRow, 4);
+    EXPECT_LE(strikeRow, 7);
+}
+
+TEST_F(RasterTextTest, BoldAndItalicPickOtherFaces)
+{
+    CanvasFont bold = Font(-11);
+    bold.weight = 700;
+    CanvasFont italic = Font(-11);
+    italic.italic = true;
+    RasterCanvas regular(120, 40), heavy(120, 40), slanted(120, 40);
+    regular.DrawText(0, 0, u"Wide", Font(-11), Ink);
+    heavy.DrawText(0, 0, u"Wide", bold, Ink);
+    slanted.DrawText(0, 0, u"Wide", italic, Ink);
+    EXPECT_GT(LitPixels(heavy).size(), LitPixels(regular).size());
+    EXPECT_NE(LitPixels(slanted), LitPixels(regular));
+}
+
+TEST_F(RasterTextTest, TextPartlyOutsideTheImageIsClipped)
+{
+    canvas.DrawText(-5, -6, u"Clip", Font(-30), Ink);
+    canvas.DrawText(115, 35, u"Clip", Font(-30), Ink);
+    canvas.DrawText(-2000000000, 2000000000, u"Far", Font(-11), Ink);
+    EXPECT_FALSE(LitPixels(canvas).empty());
+}
+
+TEST(RasterCanvasColours, SystemColoursAreTheClassicScheme)
+{
+    const RasterCanvas canvas(1, 1);
+    EXPECT_EQ(canvas.SystemColor(15), Rgb(212, 208, 200)); // button face
+    EXPECT_EQ(canvas.SystemColor(18), Rgb(0, 0, 0)); // button text
+    EXPECT_EQ(canvas.SystemColor(5), Rgb(255, 255, 255)); // window
+    EXPECT_EQ(canvas.SystemColor(8), Rgb(0, 0, 0)); // window text
+    EXPECT_EQ(canvas.SystemColor(13), Rgb(10, 36, 106)); // highlight
+    EXPECT_EQ(canvas.SystemColor(14), Rgb(255, 255, 255)); // highlight text
+    EXPECT_EQ(canvas.SystemColor(17), Rgb(128, 128, 128)); // grey text
+    EXPECT_EQ(canvas.SystemColor(99), 0u);
+    EXPECT_EQ(TranslateColor(canvas, 0x8000000F), Rgb(212, 208, 200));
+    EXPECT_EQ(TranslateColor(canvas, 0x01ABCDEF), 0xABCDEFu);
+}
+
+TEST(RasterCanvasCopy, CopiesTheSourcesCornerClipped)
+{
+    RasterCanvas source(3, 3), target(4, 4);
+    source.FillRect(0, 0, 3, 3, Ink);
+    target.CopyFrom(source, 2, 2, 3, 3);
+    EXPECT_EQ(LitPixels(target), (Points { { 2, 2 }, { 3, 2 }, { 2, 3 }, { 3, 3 } }));
+    target.CopyFrom(source, -1, 0, 10, 1);
+    EXPECT_EQ(target.Pixel(0, 0), Ink);
+    EXPECT_EQ(target.Pixel(2, 0), 0u);
+}
+
+} // namespace
+} // namespace tolva::headless
