@@ -1,0 +1,67 @@
+#pragma once
+#include "platform/win32/windows_api.h"
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace tolva::win32::test {
+
+// The number of GDI objects the process holds. GetGuiResources where the system implements it;
+// under Wine, whose GetGuiResources is a stub, the handle table is probed index by index.
+int GdiObjectCount();
+
+// Dispatches the thread's messages until done() or the time runs out; returns done().
+bool PumpUntil(const std::function<bool()>& done, DWORD timeoutMs = 2000);
+void PumpFor(DWORD milliseconds);
+
+// Runs action from inside whatever modal loop the thread is in once it has been polling for
+// delayMs, then keeps polling until the action returns true (or ten seconds pass).
+class ModalDriver {
+public:
+    explicit ModalDriver(std::function<bool()> action, UINT intervalMs = 20);
+    ~ModalDriver();
+    ModalDriver(const ModalDriver&) = delete;
+    ModalDriver& operator=(const ModalDriver&) = delete;
+    bool Done() const { return m_done; }
+
+private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
+    std::function<bool()> m_action;
+    UINT_PTR m_timer = 0;
+    DWORD m_start = 0;
+    bool m_done = false;
+};
+
+// The pixels of a window's client area (or a device context) as 0x00BBGGRR values.
+class Pixels {
+public:
+    static Pixels OfWindow(HWND window);
+    static Pixels OfDc(HDC dc, int width, int height);
+
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+    uint32_t At(int x, int y) const { return m_pixels[size_t(y) * size_t(m_width) + size_t(x)]; }
+    // How many pixels of the rectangle have this colour.
+    int Count(uint32_t color, int left, int top, int right, int bottom) const;
+    int Count(uint32_t color) const { return Count(color, 0, 0, m_width, m_height); }
+
+private:
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<uint32_t> m_pixels;
+};
+
+// A plain top-level window for tests to put children in; destroyed with this object.
+class TestWindow {
+public:
+    TestWindow(int width, int height, const wchar_t* title = L"TolvaKit test");
+    ~TestWindow();
+    TestWindow(const TestWindow&) = delete;
+    TestWindow& operator=(const TestWindow&) = delete;
+    HWND Get() const { return m_window; }
+
+private:
+    HWND m_window;
+};
+
+} // namespace tolva::win32::test
