@@ -237,6 +237,12 @@ void TolvaLabel::OnPaint()
     DrawLabel();
 }
 
+// A window shows its new size only once it is painted again.
+void TolvaLabel::OnResize()
+{
+    DrawLabel();
+}
+
 void TolvaLabel::OnAmbientChanged(StringView)
 {
     DrawLabel();

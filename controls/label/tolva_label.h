@@ -83,6 +83,7 @@ public:
 private:
     // Surface notifications. The surface's own Click is ignored: Click comes from the mouse-up.
     void OnPaint() override;
+    void OnResize() override;
     void OnAmbientChanged(StringView name) override;
     void OnDblClick() override;
     void OnMouseDown(int16_t button, int16_t shift, float x, float y) override;
