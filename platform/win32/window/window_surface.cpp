@@ -1,0 +1,502 @@
+#include "platform/win32/window/window_surface.h"
+#include "platform/win32/gdi/gdi_canvas.h"
+#include "platform/win32/gdi/gdi_object.h"
+#include "platform/win32/gdi/window_dc.h"
+#include "platform/win32/window/input_state.h"
+#include "platform/win32/window/this_module.h"
+#include "platform/win32/window/window_class.h"
+#include "platform/win32/window/window_timer.h"
+#include <algorithm>
+#include <cmath>
+#include <windowsx.h>
+
+namespace tolva::win32 {
+
+namespace {
+
+int32_t ToPixels(float twips)
+{
+    return int32_t(std::lround(twips / float(SurfaceProperties::TwipsPerPixel)));
+}
+
+float ToTwips(LONG pixels)
+{
+    return float(pixels) * float(SurfaceProperties::TwipsPerPixel);
+}
+
+char16_t Upper(char16_t c)
+{
+    return c >= u'a' && c <= u'z' ? char16_t(c - 32) : c;
+}
+
+void FillWithColor(HDC dc, const RECT& rect, OleColor color)
+{
+    const COLORREF rgb = IsSystemColor(color) ? GetSysColor(SystemColorIndex(color)) : COLORREF(color & 0xFFFFFF);
+    GdiObject<HBRUSH> brush(CreateSolidBrush(rgb));
+    FillRect(dc, &rect, brush.Get());
+}
+
+} // namespace
+
+const wchar_t* WindowSurface::ClassName()
+{
+    static const WindowClass windowClass(L"TolvaKitSurface", &WindowSurface::WindowProc, CS_DBLCLKS);
+    return windowClass.Name();
+}
+
+WindowSurface::WindowSurface() = default;
+
+WindowSurface::WindowSurface(WindowSurface* parent)
+    : m_parent(parent)
+    , m_canGetFocus(false)
+{
+    m_parent->m_children.push_back(this);
+    if (m_parent->m_window)
+        CreateOwnWindow(m_parent->m_window);
+}
+
+WindowSurface::~WindowSurface()
+{
+    for (WindowSurface* child : m_children)
+        child->m_parent = nullptr;
+    if (m_parent)
+        std::erase(m_parent->m_children, this);
+    DestroyWindow();
+}
+
+void WindowSurface::CreateWindowIn(HWND parent, const RECT& rect)
+{
+    const float oldWidth = Width(), oldHeight = Height();
+    DestroyWindow();
+    SurfaceProperties::Move(
+        ToTwips(rect.left), ToTwips(rect.top), ToTwips(rect.right - rect.left), ToTwips(rect.bottom - rect.top));
+    CreateOwnWindow(parent);
+    if ((Width() != oldWidth || Height() != oldHeight) && m_listener)
+        m_listener->OnResize();
+}
+
+void WindowSurface::CreateOwnWindow(HWND parent)
+{
+    DWORD style = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
+    if (Visible())
+        style |= WS_VISIBLE;
+    if (!Enabled())
+        style |= WS_DISABLED;
+    if (m_canGetFocus)
+        style |= WS_TABSTOP;
+    const RECT rect = PixelRect();
+    CreateWindowExW(BorderStyle() == 1 ? WS_EX_CLIENTEDGE : 0, ClassName(), L"", style, rect.left, rect.top,
+        rect.right - rect.left, rect.bottom - rect.top, parent, nullptr, ThisModule(), this);
+    if (!m_window)
+        return;
+    for (WindowSurface* child : m_children)
+        child->CreateOwnWindow(m_window);
+}
+
+void WindowSurface::DestroyWindow()
+{
+    // The children's windows go with it; each is told by its WM_NCDESTROY.
+    if (m_window)
+        ::DestroyWindow(m_window);
+}
+
+void WindowSurface::Forget()
+{
+    m_window = nullptr;
+    m_buttonsDown = 0;
+}
+
+RECT WindowSurface::PixelRect() const
+{
+    const int32_t left = ToPixels(Left());
+    const int32_t top = ToPixels(Top());
+    return { left, top, left + ToPixels(Width()), top + ToPixels(Height()) };
+}
+
+void WindowSurface::TakeFocus()
+{
+    if (m_window)
+        ::SetFocus(m_window);
+}
+
+bool WindowSurface::HasAccessKey(char16_t key) const
+{
+    const String keys = AccessKeys();
+    return std::any_of(keys.begin(), keys.end(), [key](char16_t k) { return Upper(k) == Upper(key); });
+}
+
+bool WindowSurface::AcceptsInput() const
+{
+    for (const WindowSurface* surface = this; surface; surface = surface->m_parent)
+        if (!surface->Enabled())
+            return false;
+    return true;
+}
+
+void WindowSurface::PressAccessKey(char16_t key)
+{
+    if (m_listener && AcceptsInput() && HasAccessKey(key))
+        m_listener->OnAccessKeyPress(key);
+}
+
+void WindowSurface::DrawTo(HDC dc, const RECT& bounds)
+{
+    const int32_t width = ToPixels(Width());
+    const int32_t height = ToPixels(Height());
+    if (width <= 0 || height <= 0)
+        return;
+    GdiCanvas image(nullptr, width, height);
+    FillWithColor(image.Dc(), RECT { 0, 0, width, height }, BackColor());
+    const std::weak_ptr<int> alive = m_lifetime;
+    RedirectTree(image.Dc(), BorderPixels(), BorderPixels());
+    PaintTree();
+    if (alive.expired())
+        return;
+    EndRedirectTree();
+    image.StretchTo(dc, bounds);
+}
+
+void WindowSurface::RedirectTree(HDC dc, int32_t x, int32_t y)
+{
+    m_target = Target { dc, x, y };
+    for (WindowSurface* child : m_children) {
+        if (!child->Visible())
+            continue;
+        const RECT rect = child->PixelRect();
+        child->RedirectTree(dc, x + rect.left + child->BorderPixels(), y + rect.top + child->BorderPixels());
+    }
+}
+
+void WindowSurface::PaintTree()
+{
+    if (BorderStyle() == 1) {
+        const int32_t border = BorderPixels();
+        RECT edge { m_target.x - border, m_target.y - border, m_target.x - border + ToPixels(Width()),
+            m_target.y - border + ToPixels(Height()) };
+        DrawEdge(m_target.dc, &edge, EDGE_SUNKEN, BF_RECT);
+    }
+    if (m_listener)
+        m_listener->OnPaint();
+    for (WindowSurface* child : m_children)
+        if (child->Visible())
+            child->PaintTree();
+}
+
+void WindowSurface::EndRedirectTree()
+{
+    m_target = Target {};
+    for (WindowSurface* child : m_children)
+        child->EndRedirectTree();
+}
+
+void WindowSurface::Move(float left, float top, float width, float height)
+{
+    const float oldWidth = Width(), oldHeight = Height();
+    SurfaceProperties::Move(left, top, width, height);
+    if (m_window) {
+        const RECT rect = PixelRect();
+        m_moving = true;
+        SetWindowPos(m_window, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+            SWP_NOZORDER | SWP_NOACTIVATE);
+        m_moving = false;
+    }
+    if ((Width() != oldWidth || Height() != oldHeight) && m_listener)
+        m_listener->OnResize();
+}
+
+void WindowSurface::SetEnabled(bool enabled)
+{
+    SurfaceProperties::SetEnabled(enabled);
+    if (m_window)
+        EnableWindow(m_window, enabled);
+}
+
+void WindowSurface::SetBorderStyle(int16_t style)
+{
+    SurfaceProperties::SetBorderStyle(style);
+    if (!m_window)
+        return;
+    LONG_PTR exStyle = GetWindowLongPtrW(m_window, GWL_EXSTYLE);
+    exStyle = style == 1 ? (exStyle | WS_EX_CLIENTEDGE) : (exStyle & ~LONG_PTR(WS_EX_CLIENTEDGE));
+    SetWindowLongPtrW(m_window, GWL_EXSTYLE, exStyle);
+    SetWindowPos(
+        m_window, nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void WindowSurface::SetVisible(bool visible)
+{
+    SurfaceProperties::SetVisible(visible);
+    if (m_window)
+        ShowWindow(m_window, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void WindowSurface::SetAccessKeys(StringView keys)
+{
+    if (keys == AccessKeys())
+        return;
+    SurfaceProperties::SetAccessKeys(keys);
+    if (m_owner)
+        m_owner->OnAccessKeysChanged();
+}
+
+bool WindowSurface::HasFocus() const
+{
+    return m_window && GetFocus() == m_window;
+}
+
+void WindowSurface::SetCapture()
+{
+    if (m_window)
+        ::SetCapture(m_window);
+}
+
+// While a button pressed on the window is held the capture stays, so that the release reaches
+// the control wherever the pointer is: a press dragged off a button still clicks it.
+void WindowSurface::ReleaseCapture()
+{
+    if (!m_buttonsDown)
+        ::ReleaseCapture();
+}
+
+PixelPoint WindowSurface::ScreenOrigin() const
+{
+    if (m_window) {
+        POINT origin { 0, 0 };
+        ClientToScreen(m_window, &origin);
+        return { origin.x, origin.y };
+    }
+    if (!m_parent)
+        return {};
+    const PixelPoint parentOrigin = m_parent->ScreenOrigin();
+    const RECT rect = PixelRect();
+    return { parentOrigin.x + rect.left + BorderPixels(), parentOrigin.y + rect.top + BorderPixels() };
+}
+
+void WindowSurface::Refresh()
+{
+    if (m_window) {
+        InvalidateRect(m_window, nullptr, FALSE);
+        UpdateWindow(m_window);
+        return;
+    }
+    WindowSurface* root = this;
+    while (root->m_parent)
+        root = root->m_parent;
+    if (root->m_owner)
+        root->m_owner->OnViewChanged();
+}
+
+std::unique_ptr<Canvas> WindowSurface::CreateCanvas(int32_t width, int32_t height)
+{
+    WindowDc dc(m_window);
+    return std::make_unique<GdiCanvas>(dc.Get(), width, height);
+}
+
+void WindowSurface::Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height)
+{
+    // CreateCanvas makes nothing else on this platform.
+    const auto* canvas = dynamic_cast<const GdiCanvas*>(&image);
+    if (!canvas)
+        return;
+    if (m_target.dc) {
+        canvas->CopyTo(m_target.dc, m_target.x + x, m_target.y + y, width, height);
+    } else if (m_window) {
+        WindowDc dc(m_window);
+        canvas->CopyTo(dc.Get(), x, y, width, height);
+    } else {
+        Refresh(); // windowless: the container draws it again
+    }
+}
+
+std::unique_ptr<Surface> WindowSurface::CreateChild()
+{
+    return std::unique_ptr<Surface>(new WindowSurface(this));
+}
+
+std::unique_ptr<Timer> WindowSurface::CreateTimer()
+{
+    return std::make_unique<WindowTimer>();
+}
+
+LRESULT CALLBACK WindowSurface::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_NCCREATE) {
+        auto* created = static_cast<WindowSurface*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+        created->m_window = window;
+    }
+    auto* surface = reinterpret_cast<WindowSurface*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!surface)
+        return DefWindowProcW(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        surface->Forget();
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    try {
+        return surface->HandleMessage(window, message, wParam, lParam);
+    } catch (...) {
+        // Nothing above a window procedure could take the error.
+        return 0;
+    }
+}
+
+LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const bool input = (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) || message == WM_KEYDOWN
+        || message == WM_KEYUP || message == WM_CHAR;
+    // Posted input reaches a disabled window too; a control must not hear it.
+    if (input && !AcceptsInput())
+        return 0;
+    switch (message) {
+    case WM_PAINT:
+        OnPaintMessage(window);
+        return 0;
+    case WM_ERASEBKGND:
+        // A control paints every pixel itself; erasing first would only flicker.
+        if (!m_listener) {
+            RECT client;
+            GetClientRect(window, &client);
+            FillWithColor(reinterpret_cast<HDC>(wParam), client, BackColor());
+        }
+        return 1;
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONUP:
+    case WM_MBUTTONDBLCLK:
+        OnMouseMessage(window, message, wParam, lParam);
+        return 0;
+    case WM_CAPTURECHANGED:
+        // A modal loop took the mouse: the buttons' releases will not come here.
+        if (reinterpret_cast<HWND>(lParam) != window)
+            m_buttonsDown = 0;
+        return 0;
+    case WM_KEYDOWN:
+    case WM_KEYUP: {
+        int16_t keyCode = int16_t(wParam);
+        int16_t shift = InputState::ShiftKeys();
+        if (m_listener)
+            message == WM_KEYDOWN ? m_listener->OnKeyDown(keyCode, shift) : m_listener->OnKeyUp(keyCode, shift);
+        return 0;
+    }
+    case WM_CHAR: {
+        int16_t keyAscii = int16_t(wParam);
+        if (m_listener)
+            m_listener->OnKeyPress(keyAscii);
+        return 0;
+    }
+    case WM_GETDLGCODE: {
+        // Enter and Space belong to the control, not to the dialog's default button.
+        const auto* pending = reinterpret_cast<const MSG*>(lParam);
+        LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
+        if (pending && pending->message == WM_KEYDOWN && pending->wParam == VK_RETURN)
+            code |= DLGC_WANTMESSAGE;
+        return code;
+    }
+    case WM_SETFOCUS: {
+        const std::weak_ptr<int> alive = m_lifetime;
+        if (m_owner)
+            m_owner->OnSurfaceFocus(true);
+        if (!alive.expired() && m_listener)
+            m_listener->OnGotFocus();
+        return 0;
+    }
+    case WM_KILLFOCUS: {
+        const std::weak_ptr<int> alive = m_lifetime;
+        if (m_listener)
+            m_listener->OnLostFocus();
+        if (!alive.expired() && m_owner)
+            m_owner->OnSurfaceFocus(false);
+        return 0;
+    }
+    case WM_SIZE:
+        OnSizeMessage(window);
+        return 0;
+    default:
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+void WindowSurface::OnPaintMessage(HWND window)
+{
+    PAINTSTRUCT paint;
+    HDC dc = BeginPaint(window, &paint);
+    const std::weak_ptr<int> alive = m_lifetime;
+    if (m_listener) {
+        m_target = Target { dc, 0, 0 };
+        m_listener->OnPaint();
+        if (!alive.expired())
+            m_target = Target {};
+    } else {
+        RECT client;
+        GetClientRect(window, &client);
+        FillWithColor(dc, client, BackColor());
+    }
+    EndPaint(window, &paint);
+}
+
+void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const float x = InputState::PixelsToTwips(GET_X_LPARAM(lParam));
+    const float y = InputState::PixelsToTwips(GET_Y_LPARAM(lParam));
+    const int16_t shift = InputState::ShiftKeys();
+    const int16_t button = InputState::ButtonOf(message);
+    const std::weak_ptr<int> alive = m_lifetime;
+
+    switch (message) {
+    case WM_MOUSEMOVE:
+        if (m_listener)
+            m_listener->OnMouseMove(InputState::ButtonsHeld(wParam), shift, x, y);
+        return;
+    case WM_LBUTTONDBLCLK:
+        m_buttonsDown |= button;
+        ::SetCapture(window);
+        if (m_listener)
+            m_listener->OnDblClick();
+        return;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+        m_buttonsDown &= int16_t(~button);
+        if (m_listener)
+            m_listener->OnMouseUp(button, shift, x, y);
+        if (!alive.expired() && !m_buttonsDown && GetCapture() == window)
+            ::ReleaseCapture();
+        return;
+    default: // a press; a right or middle double click counts as one
+        m_buttonsDown |= button;
+        ::SetCapture(window);
+        if (button == InputState::LeftButton && m_canGetFocus && GetFocus() != window) {
+            ::SetFocus(window);
+            if (alive.expired())
+                return;
+        }
+        if (m_listener)
+            m_listener->OnMouseDown(button, shift, x, y);
+        return;
+    }
+}
+
+void WindowSurface::OnSizeMessage(HWND window)
+{
+    if (m_moving)
+        return;
+    // Someone else resized the window: take its size as the surface's.
+    RECT frame;
+    GetWindowRect(window, &frame);
+    const LONG width = frame.right - frame.left;
+    const LONG height = frame.bottom - frame.top;
+    if (width == ToPixels(Width()) && height == ToPixels(Height()))
+        return;
+    SurfaceProperties::Move(Left(), Top(), ToTwips(width), ToTwips(height));
+    if (m_listener)
+        m_listener->OnResize();
+}
+
+} // namespace tolva::win32

@@ -1,0 +1,117 @@
+#pragma once
+#include "core/surface_properties.h"
+#include "platform/win32/windows_api.h"
+#include <memory>
+#include <vector>
+
+namespace tolva::win32 {
+
+class GdiCanvas;
+
+// A control's surface over a child window of our own class. The surface exists before and after
+// its window: a control is created, loaded and saved without a container, and its window comes
+// and goes with in-place activation (CreateWindowIn / DestroyWindow). Without a window the
+// properties still hold, drawing reaches only a container's Draw call (DrawTo), and the window
+// services answer as an unfocused, uncaptured window at the screen origin.
+//
+// Children (CreateChild) get their windows inside their parent's, at their own geometry.
+class WindowSurface final : public SurfaceProperties {
+public:
+    // What the control's COM object wants to hear from the window, to tell its container.
+    class Owner {
+    public:
+        virtual void OnSurfaceFocus(bool /*gotFocus*/) { }
+        virtual void OnAccessKeysChanged() { }
+        // A windowless surface asked for a repaint: the container should draw it again.
+        virtual void OnViewChanged() { }
+
+    protected:
+        ~Owner() = default;
+    };
+
+    WindowSurface();
+    ~WindowSurface() override;
+    WindowSurface(const WindowSurface&) = delete;
+    WindowSurface& operator=(const WindowSurface&) = delete;
+
+    void SetOwner(Owner* owner) { m_owner = owner; }
+
+    // Creates the window as a child of parent at rect (the parent's client pixels) and the
+    // windows of the children; the surface's geometry becomes rect in twips.
+    void CreateWindowIn(HWND parent, const RECT& rect);
+    // Destroys the window and the children's; the surface stays usable without them.
+    void DestroyWindow();
+    HWND Window() const { return m_window; }
+
+    // Whether a click gives the window the keyboard focus (a button's does; an embedded part's
+    // does not).
+    void SetCanGetFocus(bool canGetFocus) { m_canGetFocus = canGetFocus; }
+    void TakeFocus();
+
+    // Alt plus key: whether key is one of the access keys (letters in either case), and its press.
+    bool HasAccessKey(char16_t key) const;
+    void PressAccessKey(char16_t key);
+    // Enabled here and in every ancestor.
+    bool AcceptsInput() const;
+
+    // Renders the control and its children, borders included, stretched over bounds of any
+    // device context: a container's IViewObject::Draw. Works with or without a window.
+    void DrawTo(HDC dc, const RECT& bounds);
+
+    // Surface.
+    void SetListener(SurfaceListener* listener) override { m_listener = listener; }
+    SurfaceListener* Listener() const { return m_listener; }
+    void Move(float left, float top, float width, float height) override;
+    void SetEnabled(bool enabled) override;
+    void SetBorderStyle(int16_t style) override;
+    void SetVisible(bool visible) override;
+    void SetAccessKeys(StringView keys) override;
+    bool HasFocus() const override;
+    void SetCapture() override;
+    void ReleaseCapture() override;
+    PixelPoint ScreenOrigin() const override;
+    void Refresh() override;
+    std::unique_ptr<Canvas> CreateCanvas(int32_t width, int32_t height) override;
+    void Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height) override;
+    std::unique_ptr<Surface> CreateChild() override;
+    std::unique_ptr<Timer> CreateTimer() override;
+
+private:
+    // Where Present copies to instead of the window: a container's device context (DrawTo) at
+    // an offset, or the device context of WM_PAINT.
+    struct Target {
+        HDC dc = nullptr;
+        int32_t x = 0;
+        int32_t y = 0;
+    };
+
+    explicit WindowSurface(WindowSurface* parent);
+
+    static const wchar_t* ClassName();
+    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void OnPaintMessage(HWND window);
+    void OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void OnSizeMessage(HWND window);
+    void CreateOwnWindow(HWND parent);
+    void Forget(); // the window is gone (destroyed by us or with its parent)
+    RECT PixelRect() const;
+    void RedirectTree(HDC dc, int32_t x, int32_t y);
+    void PaintTree();
+    void EndRedirectTree();
+
+    WindowSurface* m_parent = nullptr;
+    std::vector<WindowSurface*> m_children;
+    Owner* m_owner = nullptr;
+    SurfaceListener* m_listener = nullptr;
+    HWND m_window = nullptr;
+    Target m_target;
+    bool m_canGetFocus = true;
+    bool m_moving = false;
+    int16_t m_buttonsDown = 0;
+    // Expires when the surface is destroyed, so that a message handler can tell that a listener
+    // destroyed it.
+    std::shared_ptr<int> m_lifetime = std::make_shared<int>(0);
+};
+
+} // namespace tolva::win32
