@@ -1,0 +1,432 @@
+#include "core/automation_error.h"
+#include "core/memory_property_bag.h"
+#include "scroll_test_fixture.h"
+#include <limits>
+
+namespace tolva {
+namespace {
+
+constexpr int32_t LongMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t OverflowError = int32_t(0x800A0000 + RunTimeError::Overflow);
+
+using Box = headless::TestSite::MessageBoxCall;
+
+// Slider geometry.
+
+TEST_F(ScrollTest, TheSliderIsHalfAProportionalThumbAndNeverBelow90Twips)
+{
+    scroll.SetMax(2); // range 1, page 1
+    EXPECT_FLOAT_EQ(Slider().Height(), 1245);
+    scroll.SetMax(100);
+    EXPECT_FLOAT_EQ(Slider().Height(), 90);
+    scroll.SetLargeChange(50);
+    EXPECT_FLOAT_EQ(Slider().Height(), 2490.0f * 50 / 99 / 2);
+}
+
+TEST_F(ScrollTest, TheSliderSitsAtTheValuesShareOfTheFreeTrack)
+{
+    EXPECT_FLOAT_EQ(Slider().Top(), 255);
+    scroll.SetValue(100);
+    EXPECT_FLOAT_EQ(Slider().Top(), 2655);
+    EXPECT_FLOAT_EQ(Slider().Top() + Slider().Height(), Down().Top());
+    scroll.SetValue(50);
+    EXPECT_FLOAT_EQ(Slider().Top(), 255 + 49 * 2400.0f / 99);
+}
+
+TEST_F(ScrollTest, TheTopIsWorkedOutWithTheSlidersPreviousHeight)
+{
+    scroll.SetValue(50);
+    scroll.SetLargeChange(99); // the slider grows to 1245
+    EXPECT_FLOAT_EQ(Slider().Height(), 1245);
+    EXPECT_FLOAT_EQ(Slider().Top(), 255 + 49 * 2400.0f / 99);
+    scroll.SetValue(50);
+    EXPECT_FLOAT_EQ(Slider().Top(), 255 + 49 * 1245.0f / 99);
+}
+
+TEST_F(ScrollTest, ArrowsAndSliderSpanTheWidthAndTheArrowsKeepTheirHeight)
+{
+    surface.Resize(400, 2000);
+    EXPECT_FLOAT_EQ(Up().Width(), 400);
+    EXPECT_FLOAT_EQ(Up().Height(), 255);
+    EXPECT_FLOAT_EQ(Down().Width(), 400);
+    EXPECT_FLOAT_EQ(Down().Top(), 2000 - 255);
+    EXPECT_FLOAT_EQ(Slider().Width(), 400);
+    EXPECT_FLOAT_EQ(Slider().Left(), 0);
+}
+
+TEST_F(ScrollTest, TheArrowsAreInsetLabelsWithUpAndDownGlyphs)
+{
+    EXPECT_EQ(Up().BorderStyle(), 1);
+    EXPECT_EQ(Down().BorderStyle(), 1);
+    EXPECT_EQ(Up().BackColor(), 0xCEDBDEu);
+    // A black glyph near the middle of each arrow.
+    const auto hasBlack = [](const headless::HeadlessSurface& arrow) {
+        const headless::RasterCanvas& image = arrow.WindowImage();
+        for (int32_t y = 0; y < image.Height(); ++y)
+            for (int32_t x = 0; x < image.Width(); ++x)
+                if (image.Pixel(x, y) == 0)
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE(hasBlack(Up()));
+    EXPECT_TRUE(hasBlack(Down()));
+    EXPECT_EQ(Slider().BackColor(), 0xCEDBDEu);
+    EXPECT_EQ(Slider().BorderStyle(), 1);
+}
+
+// Value and Change.
+
+TEST_F(ScrollTest, EveryAcceptedAssignmentRaisesChangeEvenWithTheSameValue)
+{
+    scroll.SetValue(5);
+    scroll.SetValue(5);
+    EXPECT_EQ(events.changes, (std::vector<int32_t> { 5, 5 }));
+    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"Value", u"Value" }));
+}
+
+TEST_F(ScrollTest, AMaxBelowValueClampsItWithoutChange)
+{
+    scroll.SetValue(50);
+    Clear();
+    scroll.SetMax(40);
+    EXPECT_EQ(scroll.Value(), 40);
+    EXPECT_TRUE(events.changes.empty());
+    EXPECT_EQ(site.propertyChanges, std::vector<String> { u"Max" });
+}
+
+TEST_F(ScrollTest, ANewBoundCapsBothStepsAtTheRange)
+{
+    scroll.SetLargeChange(60);
+    scroll.SetSmallChange(70);
+    scroll.SetMin(81);
+    EXPECT_EQ(scroll.Value(), 81);
+    EXPECT_EQ(scroll.LargeChange(), 19);
+    EXPECT_EQ(scroll.SmallChange(), 19);
+}
+
+// Refusals: message boxes at design or at run time.
+
+TEST_F(ScrollTest, ValueMaxAndTheStepsComplainOnlyAtDesignTime)
+{
+    scroll.SetValue(101);
+    scroll.SetMax(1);
+    scroll.SetLargeChange(101);
+    EXPECT_TRUE(site.messageBoxes.empty());
+
+    site.userMode = false;
+    scroll.SetValue(0);
+    scroll.SetMax(1);
+    scroll.SetLargeChange(101);
+    EXPECT_EQ(site.messageBoxes,
+        (std::vector<Box> { { u"Invalid property value", MessageBoxStyle::Critical },
+            { u"Invalid property value", MessageBoxStyle::Critical },
+            { u"Invalid propery value", MessageBoxStyle::Critical } }));
+    EXPECT_EQ(scroll.Value(), 1);
+    EXPECT_EQ(scroll.Max(), 100);
+    EXPECT_EQ(scroll.LargeChange(), 1);
+    EXPECT_TRUE(events.changes.empty());
+}
+
+TEST_F(ScrollTest, MinComplainsOnlyAtRunTime)
+{
+    site.userMode = false;
+    scroll.SetMin(100);
+    EXPECT_TRUE(site.messageBoxes.empty());
+    site.userMode = true;
+    scroll.SetMin(100);
+    EXPECT_EQ(site.messageBoxes, (std::vector<Box> { { u"Invalid property value", MessageBoxStyle::Critical } }));
+    EXPECT_EQ(scroll.Min(), 1);
+}
+
+TEST_F(ScrollTest, TheWholeRangeIsAValidPage)
+{
+    scroll.SetLargeChange(100); // Max - Min + 1
+    EXPECT_EQ(scroll.LargeChange(), 100);
+    scroll.SetLargeChange(-5); // no lower bound
+    EXPECT_EQ(scroll.LargeChange(), -5);
+}
+
+TEST_F(ScrollTest, SmallChangeChecksTheStepAlreadyStored)
+{
+    site.userMode = false;
+    scroll.SetSmallChange(500); // the stored 1 is within the range
+    EXPECT_EQ(scroll.SmallChange(), 500);
+    scroll.SetSmallChange(2); // the stored 500 is not
+    EXPECT_EQ(scroll.SmallChange(), 500);
+    EXPECT_EQ(site.messageBoxes, (std::vector<Box> { { u"Invalid property value", MessageBoxStyle::Critical } }));
+}
+
+TEST_F(ScrollTest, ARangeBeyond32BitsIsAnOverflowError)
+{
+    try {
+        scroll.SetMin(std::numeric_limits<int32_t>::min());
+        FAIL() << "no error";
+    } catch (const AutomationError& error) {
+        EXPECT_EQ(error.HResult(), OverflowError);
+    }
+    EXPECT_EQ(scroll.Min(), 1);
+}
+
+// Arrows.
+
+TEST_F(ScrollTest, AnArrowStepsAtOnceThenAfter500MsThenEvery30Ms)
+{
+    scroll.SetValue(50);
+    scroll.SetSmallChange(5);
+    Clear();
+    Down().MouseDown(1, 0, 30, 30);
+    EXPECT_EQ(scroll.Value(), 55);
+    Advance(499);
+    EXPECT_EQ(scroll.Value(), 55);
+    Advance(1);
+    EXPECT_EQ(scroll.Value(), 60);
+    Advance(30);
+    EXPECT_EQ(scroll.Value(), 65);
+    Down().MouseUp(1, 0, 30, 30);
+    Advance(1000);
+    EXPECT_EQ(events.changes, (std::vector<int32_t> { 55, 60, 65 }));
+
+    Up().MouseDown(1, 0, 30, 30);
+    Advance(530);
+    Up().MouseUp(1, 0, 30, 30);
+    EXPECT_EQ(scroll.Value(), 50);
+}
+
+TEST_F(ScrollTest, AnArrowStepPastMaxIsRefused)
+{
+    scroll.SetSmallChange(10);
+    scroll.SetValue(95);
+    Clear();
+    Down().MouseDown(1, 0, 30, 30);
+    Advance(1000);
+    EXPECT_EQ(scroll.Value(), 95);
+    EXPECT_TRUE(events.changes.empty());
+    EXPECT_TRUE(site.messageBoxes.empty());
+}
+
+TEST_F(ScrollTest, HoldingTheDownArrowOneBelowMaxWithStep2NeverMoves)
+{
+    scroll.SetSmallChange(2);
+    scroll.SetValue(99);
+    Clear();
+    Down().MouseDown(1, 0, 30, 30);
+    Advance(2000);
+    EXPECT_EQ(scroll.Value(), 99);
+    EXPECT_TRUE(events.changes.empty());
+}
+
+TEST_F(ScrollTest, ADoubleClickOnAnArrowIsOneMoreStep)
+{
+    Down().MouseDown(1, 0, 30, 30);
+    Down().MouseUp(1, 0, 30, 30);
+    Down().DblClick();
+    Down().MouseUp(1, 0, 30, 30);
+    EXPECT_EQ(scroll.Value(), 3);
+}
+
+TEST_F(ScrollTest, AStepBeyond32BitsIsAnOverflowError)
+{
+    MemoryPropertyBag bag;
+    bag.Set(u"Max", LongMax);
+    bag.Set(u"Value", LongMax - 1);
+    bag.Set(u"SmallChange", int32_t(10));
+    scroll.ReadProperties(bag);
+    try {
+        Down().MouseDown(1, 0, 30, 30);
+        FAIL() << "no error";
+    } catch (const AutomationError& error) {
+        EXPECT_EQ(error.HResult(), OverflowError);
+    }
+    EXPECT_EQ(scroll.Value(), LongMax - 1);
+}
+
+// Paging.
+
+TEST_F(ScrollTest, HoldingTheTrackPagesUntilItStopsExactlyAtMax)
+{
+    scroll.SetLargeChange(30);
+    Clear();
+    surface.MouseDown(1, 0, 100, 2700);
+    EXPECT_EQ(scroll.Value(), 31);
+    Advance(500);
+    EXPECT_EQ(scroll.Value(), 61);
+    Advance(30);
+    Advance(30);
+    EXPECT_EQ(scroll.Value(), 100);
+    Advance(30);
+    surface.MouseUp(1, 0, 100, 2700);
+    Advance(1000);
+    EXPECT_EQ(events.changes, (std::vector<int32_t> { 31, 61, 91, 100, 100 }));
+}
+
+TEST_F(ScrollTest, APressWithinAPageOfABoundPagesOntoIt)
+{
+    scroll.SetLargeChange(30);
+    scroll.SetValue(80);
+    surface.MouseDown(1, 0, 100, 2900);
+    surface.MouseUp(1, 0, 100, 2900);
+    EXPECT_EQ(scroll.Value(), 100);
+    scroll.SetValue(10);
+    surface.MouseDown(1, 0, 100, 270);
+    surface.MouseUp(1, 0, 100, 270);
+    EXPECT_EQ(scroll.Value(), 1);
+}
+
+TEST_F(ScrollTest, PagingUpStopsAtMin)
+{
+    scroll.SetLargeChange(30);
+    scroll.SetValue(50);
+    Clear();
+    surface.MouseDown(1, 0, 100, 300);
+    Advance(500);
+    surface.MouseUp(1, 0, 100, 300);
+    EXPECT_EQ(events.changes, (std::vector<int32_t> { 20, 1 }));
+}
+
+TEST_F(ScrollTest, ThePagedSideOfTheTrackTurnsBlackUntilRelease)
+{
+    const ColorRef back = surface.WindowImage().SystemColor(SystemColorIndex(surface.BackColor()));
+    scroll.SetLargeChange(30);
+    surface.MouseDown(1, 0, 100, 2700); // the slider moves to 982 - 1072
+    EXPECT_EQ(surface.WindowPixel(8, 30), back);
+    EXPECT_EQ(surface.WindowPixel(8, 150), 0x000000u);
+    surface.MouseUp(1, 0, 100, 2700);
+    EXPECT_EQ(surface.WindowPixel(8, 150), back);
+
+    scroll.SetValue(100);
+    surface.MouseDown(1, 0, 100, 300); // the slider moves to 1927 - 2017
+    EXPECT_EQ(surface.WindowPixel(8, 60), 0x000000u);
+    EXPECT_EQ(surface.WindowPixel(8, 170), back);
+}
+
+TEST_F(ScrollTest, ADoubleClickOnTheTrackRepeatsTheLastPress)
+{
+    scroll.SetLargeChange(10);
+    surface.MouseDown(1, 0, 100, 2700);
+    surface.MouseUp(1, 0, 100, 2700);
+    surface.DblClick();
+    surface.MouseUp(1, 0, 100, 2700);
+    EXPECT_EQ(scroll.Value(), 21);
+}
+
+TEST_F(ScrollTest, AnOverflowingRepeatStopsTheTimer)
+{
+    MemoryPropertyBag bag;
+    bag.Set(u"Max", LongMax);
+    bag.Set(u"Value", LongMax - 40);
+    bag.Set(u"LargeChange", int32_t(30));
+    scroll.ReadProperties(bag);
+    surface.MouseDown(1, 0, 100, 2900);
+    EXPECT_EQ(scroll.Value(), LongMax - 10);
+    EXPECT_THROW(Advance(500), AutomationError);
+    EXPECT_NO_THROW(Advance(1000));
+    EXPECT_EQ(scroll.Value(), LongMax - 10);
+}
+
+// Dragging.
+
+TEST_F(ScrollTest, DraggingToTheBottomLandsFlushOnTheDownArrow)
+{
+    Slider().MouseDown(1, 0, 100, 20);
+    Slider().MouseMove(1, 0, 100, 20 + 5000);
+    EXPECT_FLOAT_EQ(Slider().Top(), Down().Top() - Slider().Height());
+    EXPECT_EQ(scroll.Value(), 100);
+    EXPECT_EQ(events.scrolls, std::vector<int32_t> { 100 });
+    Slider().MouseUp(1, 0, 100, 20);
+    EXPECT_FLOAT_EQ(Slider().Top(), 2655);
+    EXPECT_TRUE(events.changes.empty());
+}
+
+TEST_F(ScrollTest, WithinAPixelOfTheBottomTheSliderSnapsFlush)
+{
+    Slider().MouseDown(1, 0, 100, 20);
+    Slider().MouseMove(1, 0, 100, 20 + 2390); // 10 twips short of the bottom
+    EXPECT_FLOAT_EQ(Slider().Top(), 2655);
+}
+
+TEST_F(ScrollTest, DraggingReadsTheValueHalvesToEvenAndReleaseSnaps)
+{
+    scroll.SetMax(97); // 25 twips per step
+    Slider().MouseDown(1, 0, 100, 20);
+    Slider().MouseMove(1, 0, 100, 20 + 37.5f); // 1.5 steps down
+    EXPECT_EQ(scroll.Value(), 2);
+    Slider().MouseMove(1, 0, 100, 20 + 25); // 2.5 steps down
+    EXPECT_EQ(scroll.Value(), 4);
+    EXPECT_FLOAT_EQ(Slider().Top(), 255 + 62.5f);
+    Slider().MouseUp(1, 0, 100, 20);
+    EXPECT_FLOAT_EQ(Slider().Top(), 255 + 75);
+    EXPECT_EQ(events.scrolls, (std::vector<int32_t> { 2, 4 }));
+    EXPECT_TRUE(events.changes.empty());
+}
+
+TEST_F(ScrollTest, ScrollOnlyWhileDraggingAndOnlyWhenTheValueMoves)
+{
+    Slider().MouseMove(0, 0, 100, 900); // no press: no drag
+    Slider().MouseDown(1, 0, 100, 20);
+    Slider().MouseMove(1, 0, 100, 21); // less than a step
+    Slider().MouseUp(1, 0, 100, 21);
+    Slider().MouseMove(1, 0, 100, 900);
+    EXPECT_EQ(scroll.Value(), 1);
+    EXPECT_TRUE(events.scrolls.empty());
+    EXPECT_FLOAT_EQ(Slider().Top(), 255);
+}
+
+TEST_F(ScrollTest, AnEmptyLoadedRangeLeavesTheValueWhileDragging)
+{
+    MemoryPropertyBag bag;
+    bag.Set(u"Min", int32_t(5));
+    bag.Set(u"Max", int32_t(5));
+    bag.Set(u"Value", int32_t(5));
+    scroll.ReadProperties(bag);
+    Slider().MouseDown(1, 0, 100, 20);
+    Slider().MouseMove(1, 0, 100, 500);
+    EXPECT_EQ(scroll.Value(), 5);
+    EXPECT_TRUE(events.scrolls.empty());
+}
+
+// Colours and persistence.
+
+TEST_F(ScrollTest, ColoursGoToBothArrowsAndTheBackColourAlsoToTheSlider)
+{
+    scroll.SetBackColor(0x0000FF);
+    scroll.SetForeColorActive(0x00FF00);
+    EXPECT_EQ(Up().BackColor(), 0x0000FFu);
+    EXPECT_EQ(Down().BackColor(), 0x0000FFu);
+    EXPECT_EQ(Slider().BackColor(), 0x0000FFu);
+    EXPECT_EQ(scroll.ForeColorActive(), 0x00FF00u);
+    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"BackColor", u"ForeColorActive" }));
+}
+
+TEST_F(ScrollTest, LoadingGivesTheSavedColoursToTheDownArrowOnly)
+{
+    MemoryPropertyBag bag;
+    bag.Set(u"BackColor", OleColor(0x0000FF));
+    bag.Set(u"ForeColor", OleColor(0x00FF00));
+    scroll.ReadProperties(bag);
+    EXPECT_EQ(scroll.BackColor(), 0x0000FFu);
+    EXPECT_EQ(Down().BackColor(), 0x0000FFu);
+    EXPECT_EQ(Down().ForeColor(), 0x00FF00u);
+    EXPECT_EQ(Up().BackColor(), 0xCEDBDEu);
+    EXPECT_EQ(Up().ForeColor(), 0x000000u);
+    EXPECT_EQ(Slider().BackColor(), 0xCEDBDEu);
+}
+
+TEST_F(ScrollTest, PersistsInItsOrderAndLoadsNumbersUnchecked)
+{
+    MemoryPropertyBag bag;
+    bag.Set(u"Value", int32_t(500));
+    bag.Set(u"LargeChange", int32_t(0));
+    scroll.ReadProperties(bag);
+    EXPECT_EQ(scroll.Value(), 500);
+    EXPECT_EQ(scroll.LargeChange(), 0);
+    const std::vector<String> keys { u"Enabled", u"BackColor", u"BackColorActive", u"BackColorPushed", u"ForeColor",
+        u"ForeColorActive", u"ForeColorPushed", u"Value", u"Min", u"Max", u"LargeChange", u"SmallChange" };
+    EXPECT_EQ(bag.KeysOf(MemoryPropertyBag::OperationKind::Read), keys);
+    MemoryPropertyBag written;
+    scroll.WriteProperties(written);
+    EXPECT_EQ(written.KeysOf(MemoryPropertyBag::OperationKind::Write), keys);
+    EXPECT_EQ(*written.Find(u"Value"), Variant(int32_t(500)));
+}
+
+} // namespace
+} // namespace tolva
