@@ -1,0 +1,26 @@
+#include "platform/win32/com/control_class.h"
+#include <array>
+
+namespace tolva::win32 {
+
+// One binding file per control defines its class.
+extern const ControlClass TolvaCommandClass;
+
+namespace {
+const std::array<const ControlClass*, 1> Classes = { &TolvaCommandClass };
+}
+
+std::span<const ControlClass* const> ControlClasses()
+{
+    return Classes;
+}
+
+const ControlClass* FindControlClass(REFCLSID clsid)
+{
+    for (const ControlClass* c : Classes)
+        if (*c->clsid == clsid)
+            return c;
+    return nullptr;
+}
+
+} // namespace tolva::win32

@@ -1,0 +1,30 @@
+#pragma once
+#include "platform/win32/com/control_class.h"
+#include "platform/win32/com/module.h"
+#include <unknwn.h>
+
+namespace tolva::win32 {
+
+// Creates the COM objects of one control class. Counts as a live object while a client holds it.
+class ClassFactory final : public IClassFactory {
+public:
+    explicit ClassFactory(const ControlClass& controlClass)
+        : m_class(controlClass)
+    { }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override;
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override;
+
+private:
+    ~ClassFactory() = default;
+
+    ModuleReference m_module;
+    LONG m_references = 0;
+    const ControlClass& m_class;
+};
+
+} // namespace tolva::win32

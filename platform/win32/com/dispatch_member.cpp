@@ -1,0 +1,21 @@
+#include "platform/win32/com/dispatch_member.h"
+
+namespace tolva::win32 {
+
+const DispatchMember* FindMember(std::span<const DispatchMember> members, DISPID id)
+{
+    for (const DispatchMember& member : members)
+        if (member.id == id)
+            return &member;
+    return nullptr;
+}
+
+const DispatchMember* FindMember(std::span<const DispatchMember> members, const wchar_t* name)
+{
+    for (const DispatchMember& member : members)
+        if (CompareStringOrdinal(member.name, -1, name, -1, TRUE) == CSTR_EQUAL)
+            return &member;
+    return nullptr;
+}
+
+} // namespace tolva::win32

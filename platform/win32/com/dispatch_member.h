@@ -1,0 +1,47 @@
+#pragma once
+#include "platform/win32/windows_api.h"
+#include <oaidl.h>
+#include <span>
+#include <vector>
+
+namespace tolva::win32 {
+
+class ControlObject;
+class DispatchArguments;
+
+// A value type as the type library declares it. Colours are the OLE_COLOR alias; an
+// enumeration is a 32-bit value of the named enum type.
+enum class OleType { Void, Bool, Int16, Int32, Float, Double, Currency, Date, String, Color, Font };
+
+struct TypeSpec {
+    OleType type = OleType::Void;
+    const wchar_t* enumName = nullptr; // the enum type of an Int32, if it is one
+};
+
+constexpr TypeSpec Enum(const wchar_t* name)
+{
+    return { OleType::Int32, name };
+}
+
+// Reads a property or calls a method; result is empty on entry.
+using MemberGetter = void (*)(ControlObject& object, const DispatchArguments& arguments, VARIANT& result);
+// Assigns a property from arguments.Value().
+using MemberSetter = void (*)(ControlObject& object, const DispatchArguments& arguments);
+
+// One entry of a control's binding table: what a dispatch id does.
+struct DispatchMember {
+    DISPID id = DISPID_UNKNOWN;
+    const wchar_t* name = L"";
+    bool isMethod = false;
+    TypeSpec type; // a property's type, a method's result
+    std::vector<TypeSpec> parameters; // a method's parameters, a property's index arguments
+    MemberGetter get = nullptr; // property get, or the method itself
+    MemberSetter let = nullptr; // assignment of a value (propput)
+    MemberSetter set = nullptr; // assignment of an object reference (propputref)
+};
+
+// Lookups in a binding table; names compare without regard to case.
+const DispatchMember* FindMember(std::span<const DispatchMember> members, DISPID id);
+const DispatchMember* FindMember(std::span<const DispatchMember> members, const wchar_t* name);
+
+} // namespace tolva::win32

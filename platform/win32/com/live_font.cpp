@@ -1,0 +1,117 @@
+#include "platform/win32/com/live_font.h"
+#include "platform/win32/com/error_reporting.h"
+#include "platform/win32/com/font_conversion.h"
+#include "platform/win32/com/module.h"
+
+namespace tolva::win32 {
+
+// The font's notification sink. It has its own reference count: the font holds it, and it must
+// not keep the control alive; the LiveFont cuts it loose before letting go of the font.
+class LiveFont::Sink final : public IPropertyNotifySink {
+public:
+    explicit Sink(LiveFont* owner)
+        : m_owner(owner)
+    { }
+    void Detach() { m_owner = nullptr; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override
+    {
+        if (!out)
+            return E_POINTER;
+        if (iid == IID_IUnknown || iid == IID_IPropertyNotifySink) {
+            *out = static_cast<IPropertyNotifySink*>(this);
+            AddRef();
+            return S_OK;
+        }
+        *out = nullptr;
+        return E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ULONG(InterlockedIncrement(&m_references)); }
+    ULONG STDMETHODCALLTYPE Release() override
+    {
+        LONG left = InterlockedDecrement(&m_references);
+        if (left == 0)
+            delete this;
+        return ULONG(left);
+    }
+
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID) override
+    {
+        return Guarded(IID_IPropertyNotifySink, [this] {
+            if (m_owner)
+                m_owner->OnChanged();
+            return S_OK;
+        });
+    }
+    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
+
+private:
+    ModuleReference m_module;
+    LONG m_references = 0;
+    LiveFont* m_owner;
+};
+
+LiveFont::LiveFont(std::function<void(const Font&)> changed)
+    : m_changed(std::move(changed))
+{ }
+
+LiveFont::~LiveFont()
+{
+    Unwatch();
+}
+
+ComPtr<IFontDisp> LiveFont::ObjectFor(const Font& font)
+{
+    if (!m_font || m_shown != font) {
+        Watch(CreateStdFont(font));
+        m_shown = font;
+    }
+    return m_font.As<IFontDisp>(IID_IFontDisp);
+}
+
+Font LiveFont::Attach(IFont* font)
+{
+    Watch(ComPtr<IFont>(font));
+    m_shown = ReadFont(font);
+    return m_shown;
+}
+
+void LiveFont::Watch(ComPtr<IFont> font)
+{
+    if (font.Get() == m_font.Get())
+        return;
+    Unwatch();
+    m_font = std::move(font);
+    auto container = m_font.As<IConnectionPointContainer>(IID_IConnectionPointContainer);
+    if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, m_point.Put())))
+        return; // a font that cannot notify is still a font; its later changes go unseen
+    m_sink = ComPtr<Sink>(new Sink(this));
+    if (FAILED(m_point->Advise(m_sink.Get(), &m_cookie))) {
+        m_sink->Detach();
+        m_sink.Reset();
+        m_point.Reset();
+    }
+}
+
+void LiveFont::Unwatch()
+{
+    if (m_sink) {
+        m_sink->Detach();
+        m_point->Unadvise(m_cookie);
+    }
+    m_sink.Reset();
+    m_point.Reset();
+    m_cookie = 0;
+    m_font.Reset();
+}
+
+void LiveFont::OnChanged()
+{
+    if (!m_font)
+        return;
+    Font shown = ReadFont(m_font.Get());
+    m_shown = shown;
+    m_changed(shown);
+}
+
+} // namespace tolva::win32

@@ -1,0 +1,46 @@
+#pragma once
+#include "core/font.h"
+#include "platform/win32/com/com_ptr.h"
+#include "platform/win32/windows_api.h"
+#include <functional>
+#include <ocidl.h>
+#include <olectl.h>
+
+namespace tolva::win32 {
+
+// The standard font object a control hands out as its Font property: one per control, and
+// watched through IPropertyNotifySink, so that `ctl.Font.Bold = True` changes the control.
+class LiveFont {
+public:
+    // changed receives the font's attributes after the client changed one of them.
+    explicit LiveFont(std::function<void(const Font&)> changed);
+    ~LiveFont();
+    LiveFont(const LiveFont&) = delete;
+    LiveFont& operator=(const LiveFont&) = delete;
+
+    // The font object showing font: the current one when it shows it, else a new one that
+    // replaces it (the control's font changed some other way, say by loading). What the object
+    // shows is remembered as it was last given or read, not read back each time: a font object
+    // may report another face name than it was made with (Wine's reports the face it realised).
+    ComPtr<IFontDisp> ObjectFor(const Font& font);
+
+    // Makes the client's font object the control's (Set ctl.Font = f): later changes of it
+    // reach the control. Returns its attributes.
+    Font Attach(IFont* font);
+
+private:
+    class Sink;
+
+    void Watch(ComPtr<IFont> font);
+    void Unwatch();
+    void OnChanged();
+
+    std::function<void(const Font&)> m_changed;
+    ComPtr<IFont> m_font;
+    Font m_shown; // the attributes m_font shows
+    ComPtr<Sink> m_sink;
+    ComPtr<IConnectionPoint> m_point;
+    DWORD m_cookie = 0;
+};
+
+} // namespace tolva::win32

@@ -1,0 +1,70 @@
+#pragma once
+#include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/dispatch_member.h"
+#include <type_traits>
+
+namespace tolva::win32 {
+
+// How a C++ type of the core crosses Invoke: its declared type, the conversion of an argument
+// and the result it hands back. OleColor is uint32_t, so every uint32_t is a colour.
+template <class T> struct OleTraits;
+
+template <> struct OleTraits<bool> {
+    static constexpr OleType Type = OleType::Bool;
+    static bool From(const VARIANT& v) { return ToBool(v); }
+    static void Put(VARIANT& r, bool v) { PutBool(r, v); }
+};
+
+template <> struct OleTraits<int16_t> {
+    static constexpr OleType Type = OleType::Int16;
+    static int16_t From(const VARIANT& v) { return ToInt16(v); }
+    static void Put(VARIANT& r, int16_t v) { PutInt16(r, v); }
+};
+
+template <> struct OleTraits<int32_t> {
+    static constexpr OleType Type = OleType::Int32;
+    static int32_t From(const VARIANT& v) { return ToInt32(v); }
+    static void Put(VARIANT& r, int32_t v) { PutInt32(r, v); }
+};
+
+template <> struct OleTraits<uint32_t> {
+    static constexpr OleType Type = OleType::Color;
+    static OleColor From(const VARIANT& v) { return ToColor(v); }
+    static void Put(VARIANT& r, OleColor v) { PutColor(r, v); }
+};
+
+template <> struct OleTraits<float> {
+    static constexpr OleType Type = OleType::Float;
+    static float From(const VARIANT& v) { return ToFloat(v); }
+    static void Put(VARIANT& r, float v) { PutFloat(r, v); }
+};
+
+template <> struct OleTraits<double> {
+    static constexpr OleType Type = OleType::Double;
+    static double From(const VARIANT& v) { return ToDouble(v); }
+    static void Put(VARIANT& r, double v) { PutDouble(r, v); }
+};
+
+template <> struct OleTraits<Currency> {
+    static constexpr OleType Type = OleType::Currency;
+    static Currency From(const VARIANT& v) { return ToCurrency(v); }
+    static void Put(VARIANT& r, Currency v) { PutCurrency(r, v); }
+};
+
+template <> struct OleTraits<OleDate> {
+    static constexpr OleType Type = OleType::Date;
+    static OleDate From(const VARIANT& v) { return ToDate(v); }
+    static void Put(VARIANT& r, OleDate v) { PutDate(r, v); }
+};
+
+template <> struct OleTraits<String> {
+    static constexpr OleType Type = OleType::String;
+    static String From(const VARIANT& v) { return ToText(v); }
+    static void Put(VARIANT& r, StringView v) { PutText(r, v); }
+};
+
+template <> struct OleTraits<StringView> : OleTraits<String> { };
+
+template <class T> using OleTraitsOf = OleTraits<std::remove_cvref_t<T>>;
+
+} // namespace tolva::win32

@@ -1,0 +1,161 @@
+#include "platform/win32/com/parts/dispatch_part.h"
+#include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/dispatch_arguments.h"
+#include "platform/win32/com/error_reporting.h"
+#include "platform/win32/com/ole_variant.h"
+#include "platform/win32/com/type_library.h"
+
+namespace tolva::win32 {
+
+namespace {
+
+bool IsObject(const VARIANT& value)
+{
+    const VARIANT* v = V_VT(&value) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(&value) : &value;
+    VARTYPE type = V_VT(v) & ~VT_BYREF;
+    return type == VT_DISPATCH || type == VT_UNKNOWN;
+}
+
+// Positional arguments must all be there: none of the published members has an optional one.
+HRESULT CheckArguments(const DispatchMember& member, const DispatchArguments& arguments, UINT* argumentError)
+{
+    if (arguments.Count() != member.parameters.size())
+        return DISP_E_BADPARAMCOUNT;
+    for (size_t i = 0; i < arguments.Count(); ++i) {
+        if (IsMissing(arguments.At(i))) {
+            if (argumentError)
+                *argumentError = arguments.DispatchIndex(i);
+            return DISP_E_PARAMNOTOPTIONAL;
+        }
+    }
+    return S_OK;
+}
+
+} // namespace
+
+void* DispatchPart::Interface(REFIID iid)
+{
+    if (iid == IID_IDispatch || iid == *m_object.Class().dispatchIid)
+        return static_cast<IDispatch*>(this);
+    return nullptr;
+}
+
+HRESULT DispatchPart::GetTypeInfoCount(UINT* count)
+{
+    if (!count)
+        return E_POINTER;
+    *count = 1;
+    return S_OK;
+}
+
+HRESULT DispatchPart::GetTypeInfo(UINT index, LCID, ITypeInfo** info)
+{
+    if (!info)
+        return E_POINTER;
+    *info = nullptr;
+    if (index != 0)
+        return DISP_E_BADINDEX;
+    return Guarded(IID_IDispatch, [&] {
+        *info = TypeLibrary::InfoOf(*m_object.Class().dispatchIid).Detach();
+        return S_OK;
+    });
+}
+
+HRESULT DispatchPart::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
+{
+    if (!names || !ids)
+        return E_POINTER;
+    if (count == 0)
+        return E_INVALIDARG;
+    HRESULT hr = S_OK;
+    const DispatchMember* member = FindMember(m_object.Class().members, names[0]);
+    ids[0] = member ? member->id : DISPID_UNKNOWN;
+    if (!member)
+        hr = DISP_E_UNKNOWNNAME;
+    // Named arguments are not taken.
+    for (UINT i = 1; i < count; ++i) {
+        ids[i] = DISPID_UNKNOWN;
+        hr = DISP_E_UNKNOWNNAME;
+    }
+    return hr;
+}
+
+HRESULT DispatchPart::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
+    EXCEPINFO* exception, UINT* argumentError)
+{
+    if (iid != IID_NULL)
+        return DISP_E_UNKNOWNINTERFACE;
+    if (!params || (params->cArgs > 0 && !params->rgvarg))
+        return E_POINTER;
+    const DispatchMember* member = FindMember(m_object.Class().members, id);
+    if (!member)
+        return DISP_E_MEMBERNOTFOUND;
+
+    ComPtr<IUnknown> keepAlive(&m_object);
+    ClearErrorObject();
+    if (result)
+        VariantInit(result);
+    try {
+        if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF))
+            return Assign(*member, flags, *params, argumentError);
+        if (flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET))
+            return Get(*member, *params, result, argumentError);
+        return DISP_E_MEMBERNOTFOUND;
+    } catch (const ArgumentError& e) {
+        if (argumentError)
+            *argumentError = e.DispatchIndex();
+        return e.Result();
+    } catch (const AutomationError& e) {
+        SetErrorObject(e, *m_object.Class().dispatchIid);
+        if (!exception)
+            return e.HResult();
+        try {
+            FillExcepInfo(*exception, e);
+        } catch (...) {
+            return E_OUTOFMEMORY;
+        }
+        return DISP_E_EXCEPTION;
+    } catch (...) {
+        return ResultOfCurrentException(*m_object.Class().dispatchIid);
+    }
+}
+
+HRESULT DispatchPart::Get(const DispatchMember& member, const DISPPARAMS& params, VARIANT* result, UINT* argumentError)
+{
+    if (params.cNamedArgs > 0)
+        return DISP_E_NONAMEDARGS;
+    DispatchArguments arguments(params, false);
+    if (HRESULT hr = CheckArguments(member, arguments, argumentError); FAILED(hr))
+        return hr;
+    OleVariant value;
+    member.get(m_object, arguments, *value.Put());
+    if (result)
+        value.MoveTo(*result);
+    return S_OK;
+}
+
+HRESULT DispatchPart::Assign(const DispatchMember& member, WORD flags, const DISPPARAMS& params, UINT* argumentError)
+{
+    if (member.isMethod)
+        return DISP_E_MEMBERNOTFOUND;
+    if (params.cNamedArgs == 0 || params.cArgs == 0)
+        return DISP_E_PARAMNOTOPTIONAL;
+    if (params.cNamedArgs > 1 || params.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT)
+        return DISP_E_NONAMEDARGS;
+    DispatchArguments arguments(params, true);
+    // An object goes to the by-reference setter (also when assigned without Set), anything
+    // else to the value setter; Set on a plain property is refused as the languages refuse it.
+    MemberSetter setter = nullptr;
+    if (member.set && (IsObject(arguments.Value()) || !(flags & DISPATCH_PROPERTYPUT)))
+        setter = member.set;
+    else if (flags & DISPATCH_PROPERTYPUT)
+        setter = member.let;
+    if (!setter)
+        return DISP_E_MEMBERNOTFOUND;
+    if (HRESULT hr = CheckArguments(member, arguments, argumentError); FAILED(hr))
+        return hr;
+    setter(m_object, arguments);
+    return S_OK;
+}
+
+} // namespace tolva::win32
