@@ -26,7 +26,7 @@ TolvaScroll::TolvaScroll(Surface& surface, ControlSite& site)
     m_tlUp->SetEventListener(&m_upEvents);
     m_tlDown->SetEventListener(&m_downEvents);
     m_picSlider->SetEventListener(&m_sliderEvents);
-    m_tmrScroll->SetEnabled(false);
+    m_tmrScroll->SetEnabled(false); // a new timer's state is the platform's; this one runs only while held
     m_tmrScroll->SetTickHandler([this] { OnRepeat(); });
     m_surface.SetListener(this);
 }
@@ -34,7 +34,6 @@ TolvaScroll::TolvaScroll(Surface& surface, ControlSite& site)
 TolvaScroll::~TolvaScroll()
 {
     m_surface.SetListener(nullptr);
-    m_tmrScroll->SetEnabled(false);
 }
 
 // The parts as they were laid out at design time, loaded as any control is from its saved form.
