@@ -1,0 +1,14 @@
+#include "tools/render/stage.h"
+
+namespace tolva::render {
+
+Stage::Stage(float width, float height)
+{
+    m_site.extenderName = u"TolvaControl1";
+    m_site.extenderWidth = width;
+    m_site.extenderHeight = height;
+    m_site.parent = &m_form;
+    m_surface.Resize(width, height);
+}
+
+} // namespace tolva::render
