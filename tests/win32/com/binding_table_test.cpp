@@ -1,0 +1,253 @@
+// Every binding table against the type library: the contract clients compile against must be
+// exactly what Invoke does.
+#include "controls/command/tolva_command.h"
+#include "platform/win32/com/bstr.h"
+#include "platform/win32/com/control_class.h"
+#include "platform/win32/com/type_library.h"
+#include "tests/win32/support/command_object.h"
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <string>
+
+namespace tolva::win32 {
+namespace {
+
+std::wstring NameOf(ITypeInfo* info, MEMBERID id = MEMBERID_NIL)
+{
+    Bstr name;
+    info->GetDocumentation(id, name.Put(), nullptr, nullptr, nullptr);
+    return name.Get() ? name.Get() : L"";
+}
+
+// A declared type in the binding table's terms, written out for messages.
+std::wstring Describe(const TypeSpec& t)
+{
+    static const wchar_t* names[] = { L"void", L"bool", L"short", L"long", L"float", L"double", L"currency", L"date",
+        L"string", L"OLE_COLOR", L"font" };
+    std::wstring text = names[int(t.type)];
+    if (t.enumName)
+        text += std::wstring(L" enum ") + t.enumName;
+    return text;
+}
+
+std::wstring Describe(ITypeInfo* info, const TYPEDESC& desc)
+{
+    switch (desc.vt) {
+    case VT_VOID:
+    case VT_HRESULT:
+        return Describe(TypeSpec { OleType::Void });
+    case VT_BOOL:
+        return Describe(TypeSpec { OleType::Bool });
+    case VT_I2:
+        return Describe(TypeSpec { OleType::Int16 });
+    case VT_I4:
+        return Describe(TypeSpec { OleType::Int32 });
+    case VT_R4:
+        return Describe(TypeSpec { OleType::Float });
+    case VT_R8:
+        return Describe(TypeSpec { OleType::Double });
+    case VT_CY:
+        return Describe(TypeSpec { OleType::Currency });
+    case VT_DATE:
+        return Describe(TypeSpec { OleType::Date });
+    case VT_BSTR:
+        return Describe(TypeSpec { OleType::String });
+    case VT_PTR: {
+        std::wstring target = Describe(info, *desc.lptdesc);
+        return target == L"IFontDisp" ? Describe(TypeSpec { OleType::Font }) : target + L"*";
+    }
+    case VT_USERDEFINED: {
+        ComPtr<ITypeInfo> referenced;
+        info->GetRefTypeInfo(desc.hreftype, referenced.Put());
+        TYPEATTR* attributes = nullptr;
+        referenced->GetTypeAttr(&attributes);
+        TYPEKIND kind = attributes->typekind;
+        referenced->ReleaseTypeAttr(attributes);
+        std::wstring name = NameOf(referenced.Get());
+        if (kind == TKIND_ENUM)
+            return Describe(TypeSpec { OleType::Int32, name.c_str() });
+        if (kind == TKIND_ALIAS && name == L"OLE_COLOR")
+            return Describe(TypeSpec { OleType::Color });
+        return name;
+    }
+    default:
+        return L"vt " + std::to_wstring(desc.vt);
+    }
+}
+
+struct Declared {
+    std::wstring name;
+    std::wstring result;
+    std::vector<std::wstring> parameters;
+};
+
+// The dispinterface's functions by (dispatch id, invoke kind).
+std::map<std::pair<DISPID, INVOKEKIND>, Declared> DeclaredMembers(ITypeInfo* info)
+{
+    std::map<std::pair<DISPID, INVOKEKIND>, Declared> members;
+    TYPEATTR* attributes = nullptr;
+    info->GetTypeAttr(&attributes);
+    WORD count = attributes->cFuncs;
+    info->ReleaseTypeAttr(attributes);
+    for (WORD i = 0; i < count; ++i) {
+        FUNCDESC* function = nullptr;
+        info->GetFuncDesc(i, &function);
+        Declared declared { NameOf(info, function->memid), Describe(info, function->elemdescFunc.tdesc), {} };
+        for (SHORT p = 0; p < function->cParams; ++p)
+            declared.parameters.push_back(Describe(info, function->lprgelemdescParam[p].tdesc));
+        members[{ function->memid, function->invkind }] = declared;
+        info->ReleaseFuncDesc(function);
+    }
+    return members;
+}
+
+std::vector<std::wstring> Described(const std::vector<TypeSpec>& types)
+{
+    std::vector<std::wstring> text;
+    for (const TypeSpec& t : types)
+        text.push_back(Describe(t));
+    return text;
+}
+
+class BindingTable : public testing::TestWithParam<const ControlClass*> { };
+
+TEST_P(BindingTable, EveryMemberIsDeclaredWithItsIdNameAndTypes)
+{
+    const ControlClass& c = *GetParam();
+    auto declared = DeclaredMembers(TypeLibrary::InfoOf(*c.dispatchIid).Get());
+    for (const DispatchMember& m : c.members) {
+        SCOPED_TRACE(testing::Message() << "member " << ToUtf8(ViewOf(m.name)));
+        const std::vector<std::wstring> parameters = Described(m.parameters);
+        if (m.isMethod) {
+            auto found = declared.find({ m.id, INVOKE_FUNC });
+            ASSERT_NE(found, declared.end());
+            EXPECT_EQ(found->second.name, m.name);
+            EXPECT_EQ(found->second.result, Describe(m.type));
+            EXPECT_EQ(found->second.parameters, parameters);
+            continue;
+        }
+        auto get = declared.find({ m.id, INVOKE_PROPERTYGET });
+        ASSERT_NE(get, declared.end());
+        EXPECT_EQ(get->second.name, m.name);
+        EXPECT_EQ(get->second.result, Describe(m.type));
+        EXPECT_EQ(get->second.parameters, parameters);
+
+        std::vector<std::wstring> assigned = parameters;
+        assigned.push_back(Describe(m.type));
+        auto let = declared.find({ m.id, INVOKE_PROPERTYPUT });
+        EXPECT_EQ(let != declared.end(), m.let != nullptr);
+        if (let != declared.end()) {
+            EXPECT_EQ(let->second.parameters, assigned);
+        }
+        auto set = declared.find({ m.id, INVOKE_PROPERTYPUTREF });
+        EXPECT_EQ(set != declared.end(), m.set != nullptr);
+        if (set != declared.end()) {
+            EXPECT_EQ(set->second.parameters, assigned);
+        }
+    }
+}
+
+TEST_P(BindingTable, EveryDeclaredMemberIsBound)
+{
+    const ControlClass& c = *GetParam();
+    for (const auto& [key, declared] : DeclaredMembers(TypeLibrary::InfoOf(*c.dispatchIid).Get())) {
+        const DispatchMember* member = FindMember(c.members, key.first);
+        ASSERT_NE(member, nullptr) << ToUtf8(ViewOf(declared.name.c_str()));
+        EXPECT_EQ(member->isMethod, key.second == INVOKE_FUNC) << ToUtf8(ViewOf(declared.name.c_str()));
+    }
+}
+
+TEST_P(BindingTable, IdsAndNamesAreUnique)
+{
+    std::set<DISPID> ids;
+    std::set<std::wstring> names;
+    for (const DispatchMember& m : GetParam()->members) {
+        EXPECT_TRUE(ids.insert(m.id).second) << m.id;
+        std::wstring lower = m.name;
+        for (wchar_t& ch : lower)
+            ch = towlower(ch);
+        EXPECT_TRUE(names.insert(lower).second);
+    }
+}
+
+TEST_P(BindingTable, CoclassNamesItsDispatchAndEventInterfaces)
+{
+    const ControlClass& c = *GetParam();
+    ComPtr<ITypeInfo> coclass = TypeLibrary::InfoOf(*c.clsid);
+    EXPECT_EQ(NameOf(coclass.Get()), c.name);
+    HREFTYPE reference = 0;
+    ComPtr<ITypeInfo> implemented;
+    INT flags = 0;
+    bool dispatchFound = false;
+    bool eventFound = false;
+    for (UINT i = 0; SUCCEEDED(coclass->GetRefTypeOfImplType(i, &reference)); ++i) {
+        coclass->GetImplTypeFlags(i, &flags);
+        coclass->GetRefTypeInfo(reference, implemented.Put());
+        TYPEATTR* attributes = nullptr;
+        implemented->GetTypeAttr(&attributes);
+        IID iid = attributes->guid;
+        implemented->ReleaseTypeAttr(attributes);
+        if (flags == IMPLTYPEFLAG_FDEFAULT && iid == *c.dispatchIid)
+            dispatchFound = true;
+        if (flags == (IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE) && iid == *c.eventIid)
+            eventFound = true;
+    }
+    EXPECT_TRUE(dispatchFound);
+    EXPECT_TRUE(eventFound);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllControls, BindingTable, testing::ValuesIn(ControlClasses().begin(), ControlClasses().end()),
+    [](const testing::TestParamInfo<const ControlClass*>& info) { return ToUtf8(ViewOf(info.param->name)); });
+
+// The values of an enumeration in the type library.
+std::map<std::wstring, LONG> EnumValues(const wchar_t* enumName)
+{
+    ComPtr<ITypeLib> library = TypeLibrary::Get();
+    ComPtr<ITypeInfo> info;
+    MEMBERID id = 0;
+    USHORT found = 1;
+    std::wstring name = enumName;
+    library->FindName(name.data(), 0, info.Put(), &id, &found);
+    std::map<std::wstring, LONG> values;
+    if (!found)
+        return values;
+    TYPEATTR* attributes = nullptr;
+    info->GetTypeAttr(&attributes);
+    for (WORD i = 0; i < attributes->cVars; ++i) {
+        VARDESC* variable = nullptr;
+        info->GetVarDesc(i, &variable);
+        values[NameOf(info.Get(), variable->memid)] = V_I4(variable->lpvarValue);
+        info->ReleaseVarDesc(variable);
+    }
+    info->ReleaseTypeAttr(attributes);
+    return values;
+}
+
+TEST(TypeLibraryEnums, MatchTheCoreConstants)
+{
+    EXPECT_EQ(EnumValues(L"tkStyle"),
+        (std::map<std::wstring, LONG> { { L"tkNormal", tkStyle::tkNormal }, { L"tkMenu", tkStyle::tkMenu } }));
+    EXPECT_EQ(EnumValues(L"tkCommandAlignment"),
+        (std::map<std::wstring, LONG> {
+            { L"tkLeft", tkCommandAlignment::tkLeft }, { L"tkCenter", tkCommandAlignment::tkCenter } }));
+}
+
+TEST(TypeLibraryEvents, CommandEventsTakeShortsAndSinglesByReference)
+{
+    auto declared = DeclaredMembers(TypeLibrary::InfoOf(*TolvaCommandClass.eventIid).Get());
+    auto event = [&declared](DISPID id) { return declared[std::make_pair(id, INVOKE_FUNC)]; };
+    const std::vector<std::wstring> mouse = { L"short*", L"short*", L"float*", L"float*" };
+    const std::vector<std::wstring> keys = { L"short*", L"short*" };
+    EXPECT_EQ(event(1).name, L"Click");
+    EXPECT_EQ(event(2).name, L"DblClick");
+    EXPECT_EQ(event(3).parameters, keys);
+    EXPECT_EQ(event(4).parameters, std::vector<std::wstring> { L"short*" });
+    EXPECT_EQ(event(5).parameters, keys);
+    for (DISPID id : { 6, 7, 8 })
+        EXPECT_EQ(event(id).parameters, mouse) << id;
+    EXPECT_EQ(declared.size(), 8u);
+}
+
+} // namespace
+} // namespace tolva::win32

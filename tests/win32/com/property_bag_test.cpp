@@ -1,0 +1,187 @@
+// IPersistPropertyBag of TolvaCommand with a container bag that records what happens to it.
+#include "platform/win32/com/font_conversion.h"
+#include "tests/win32/support/command_object.h"
+#include "tests/win32/support/dispatch_helpers.h"
+#include "tests/win32/support/fake_client_site.h"
+#include "tests/win32/support/recording_property_bag.h"
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+namespace tolva::win32::test {
+namespace {
+
+const std::vector<std::wstring> KeyOrder = { L"BackColor", L"BackColorActive", L"BackColorPushed", L"ForeColorDisabled",
+    L"MenuName", L"ForeColor", L"Enabled", L"Font", L"Caption", L"Style", L"Alignment" };
+
+class CommandPropertyBag : public testing::Test {
+protected:
+    ComPtr<IPersistPropertyBag> Persist(const CommandObject& c)
+    {
+        return c.As<IPersistPropertyBag>(IID_IPersistPropertyBag);
+    }
+    ComPtr<RecordingPropertyBag> NewBag() { return ComPtr<RecordingPropertyBag>::Adopt(new RecordingPropertyBag); }
+
+    CommandObject command;
+    IDispatch* d = command.Dispatch();
+};
+
+TEST_F(CommandPropertyBag, LoadReadsEveryKeyOnceInTheControlsOrder)
+{
+    auto bag = NewBag();
+    ASSERT_EQ(Persist(command)->Load(bag.Get(), nullptr), S_OK);
+    EXPECT_EQ(bag->Reads(), KeyOrder);
+}
+
+TEST_F(CommandPropertyBag, MissingKeysGiveTheDefaults)
+{
+    Put(d, L"Caption", Text(L"Changed"));
+    Put(d, L"BackColor", Long(1));
+    Put(d, L"Enabled", Bool(false));
+    auto bag = NewBag();
+    ASSERT_EQ(Persist(command)->Load(bag.Get(), nullptr), S_OK);
+    EXPECT_EQ(command.Control().Caption(), u"Command"); // a loaded control does not take its name
+    EXPECT_EQ(command.Control().BackColor(), 0xCEDBDEu);
+    EXPECT_EQ(command.Control().ForeColor(), 0x80000012u);
+    EXPECT_TRUE(command.Control().Enabled());
+}
+
+TEST_F(CommandPropertyBag, SaveWritesOnlyWhatDiffersFromTheDefaults)
+{
+    auto bag = NewBag();
+    ASSERT_EQ(Persist(command)->InitNew(), S_OK);
+    ASSERT_EQ(Persist(command)->Save(bag.Get(), TRUE, FALSE), S_OK);
+    EXPECT_EQ(bag->Writes(), std::vector<std::wstring> { L"Caption" }); // "TolvaCommand1", not "Command"
+
+    Put(d, L"BackColorPushed", Long(0x102030));
+    Put(d, L"Style", Long(1));
+    Put(d, L"Caption", Text(L"Command"));
+    auto second = NewBag();
+    Persist(command)->Save(second.Get(), TRUE, FALSE);
+    EXPECT_EQ(second->Writes(), (std::vector<std::wstring> { L"BackColorPushed", L"Style" }));
+    EXPECT_EQ(V_VT(second->Find(L"BackColorPushed")), VT_I4);
+    EXPECT_EQ(V_VT(second->Find(L"Style")), VT_I4);
+}
+
+TEST_F(CommandPropertyBag, EveryPropertySurvivesSaveAndLoad)
+{
+    Put(d, L"Caption", Text(L"&Post"));
+    Put(d, L"MenuName", Text(L"mnuPost"));
+    Put(d, L"Style", Long(1));
+    Put(d, L"Alignment", Long(1));
+    Put(d, L"BackColor", Long(0x010203));
+    Put(d, L"BackColorActive", Long(0x040506));
+    Put(d, L"BackColorPushed", Long(0x070809));
+    Put(d, L"ForeColor", Long(LONG(0x8000000D)));
+    Put(d, L"ForeColorDisabled", Long(0x0A0B0C));
+    Put(d, L"Enabled", Bool(false));
+    Font bold = command.Control().GetFont();
+    bold.SetBold(true);
+    bold.size = 12;
+    ComPtr<IFont> font = CreateStdFont(bold);
+    Put(d, L"Font", Object(font.As<IDispatch>(IID_IDispatch).Get()), DISPATCH_PROPERTYPUTREF);
+
+    auto bag = NewBag();
+    ASSERT_EQ(Persist(command)->Save(bag.Get(), TRUE, FALSE), S_OK);
+    EXPECT_EQ(V_VT(bag->Find(L"Enabled")), VT_BOOL);
+    EXPECT_EQ(V_VT(bag->Find(L"Font")), VT_DISPATCH);
+
+    CommandObject loaded;
+    ASSERT_EQ(Persist(loaded)->Load(bag.Get(), nullptr), S_OK);
+    const TolvaCommand& a = command.Control();
+    const TolvaCommand& b = loaded.Control();
+    EXPECT_EQ(b.Caption(), a.Caption());
+    EXPECT_EQ(b.MenuName(), a.MenuName());
+    EXPECT_EQ(b.Style(), a.Style());
+    EXPECT_EQ(b.Alignment(), a.Alignment());
+    EXPECT_EQ(b.BackColor(), a.BackColor());
+    EXPECT_EQ(b.BackColorActive(), a.BackColorActive());
+    EXPECT_EQ(b.BackColorPushed(), a.BackColorPushed());
+    EXPECT_EQ(b.ForeColor(), 0x8000000Du);
+    EXPECT_EQ(b.ForeColorDisabled(), a.ForeColorDisabled());
+    EXPECT_FALSE(b.Enabled());
+    EXPECT_TRUE(b.GetFont().Bold());
+    // As the font object reports it: Wine's gives the size of the font it realised (11.25).
+    EXPECT_EQ(b.GetFont().size, ReadFont(font.Get()).size);
+    EXPECT_NEAR(b.GetFont().size, 12, 1);
+}
+
+TEST_F(CommandPropertyBag, ValuesStoredInOtherTypesAreConverted)
+{
+    auto bag = NewBag();
+    VARIANT colour;
+    V_VT(&colour) = VT_UI4;
+    V_UI4(&colour) = 0x8000000F;
+    bag->Put(L"BackColor", colour);
+    bag->Put(L"Style", Text(L"1"));
+    bag->Put(L"Enabled", Short(0));
+    ASSERT_EQ(Persist(command)->Load(bag.Get(), nullptr), S_OK);
+    EXPECT_EQ(command.Control().BackColor(), 0x8000000Fu);
+    EXPECT_EQ(command.Control().Style(), 1);
+    EXPECT_FALSE(command.Control().Enabled());
+}
+
+TEST_F(CommandPropertyBag, AValueThatDoesNotConvertLeavesTheControlAsItWas)
+{
+    Put(d, L"Caption", Text(L"Before"));
+    Put(d, L"BackColor", Long(7));
+    auto bag = NewBag();
+    bag->Put(L"BackColor", Long(9));
+    bag->Put(L"Font", Text(L"Arial")); // a font must be a font object
+    EXPECT_TRUE(FAILED(Persist(command)->Load(bag.Get(), nullptr)));
+    EXPECT_EQ(command.Control().Caption(), u"Before");
+    EXPECT_EQ(command.Control().BackColor(), 7u);
+
+    auto second = NewBag();
+    second->Put(L"Style", Text(L"menu"));
+    EXPECT_TRUE(FAILED(Persist(command)->Load(second.Get(), nullptr)));
+    EXPECT_EQ(command.Control().Style(), 0);
+}
+
+TEST_F(CommandPropertyBag, ADesignerPlacingTheControlGivesItTheExtenderName)
+{
+    auto site = ComPtr<FakeClientSite>::Adopt(new FakeClientSite);
+    site->Extender().AddText(1, L"Name", L"cmdPost");
+    command.Object().Site().SetClientSite(site.Get());
+    ASSERT_EQ(Persist(command)->InitNew(), S_OK);
+    EXPECT_EQ(command.Control().Caption(), u"cmdPost");
+    command.Object().Site().SetClientSite(nullptr);
+}
+
+TEST_F(CommandPropertyBag, TheFontDefaultIsTheAmbientFont)
+{
+    auto site = ComPtr<FakeClientSite>::Adopt(new FakeClientSite);
+    Font ambient;
+    ambient.name = u"Tahoma";
+    ambient.size = 10;
+    ComPtr<IFont> ambientFont = CreateStdFont(ambient);
+    site->Ambients().AddObject(DISPID_AMBIENT_FONT, L"Font", ambientFont.As<IDispatch>(IID_IDispatch).Get());
+    command.Object().Site().SetClientSite(site.Get());
+
+    // Without a Font key the control takes the ambient font, and saving leaves it out again.
+    auto bag = NewBag();
+    ASSERT_EQ(Persist(command)->Load(bag.Get(), nullptr), S_OK);
+    EXPECT_EQ(command.Control().GetFont(), ReadFont(ambientFont.Get()));
+    auto saved = NewBag();
+    Persist(command)->Save(saved.Get(), TRUE, FALSE);
+    EXPECT_EQ(saved->Find(L"Font"), nullptr);
+    command.Object().Site().SetClientSite(nullptr);
+}
+
+TEST_F(CommandPropertyBag, DirtyFollowsDesignerChangesAndSaves)
+{
+    auto stream = command.As<IPersistStreamInit>(IID_IPersistStreamInit);
+    ASSERT_EQ(Persist(command)->InitNew(), S_OK);
+    EXPECT_EQ(stream->IsDirty(), S_FALSE);
+    Put(d, L"MenuName", Text(L"mnuFile")); // stores only: the form is not marked dirty
+    EXPECT_EQ(stream->IsDirty(), S_FALSE);
+    Put(d, L"Caption", Text(L"Post"));
+    EXPECT_EQ(stream->IsDirty(), S_OK);
+    auto bag = NewBag();
+    Persist(command)->Save(bag.Get(), FALSE, FALSE);
+    EXPECT_EQ(stream->IsDirty(), S_OK);
+    Persist(command)->Save(bag.Get(), TRUE, FALSE);
+    EXPECT_EQ(stream->IsDirty(), S_FALSE);
+}
+
+} // namespace
+} // namespace tolva::win32::test

@@ -1,0 +1,42 @@
+#pragma once
+#include "platform/win32/com/ole_variant.h"
+#include <initializer_list>
+#include <oaidl.h>
+#include <string>
+
+namespace tolva::win32::test {
+
+// Late-bound calls as a client language makes them. Each returns the HRESULT of Invoke.
+DISPID IdOf(IDispatch* object, const wchar_t* name);
+HRESULT Get(IDispatch* object, const wchar_t* name, OleVariant& result);
+HRESULT Put(IDispatch* object, const wchar_t* name, const VARIANT& value, WORD flags = DISPATCH_PROPERTYPUT);
+HRESULT Call(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, OleVariant& result,
+    EXCEPINFO* exception = nullptr, UINT* argumentError = nullptr);
+
+// A text argument, freed at the end of the full expression that uses it.
+class TextArgument {
+public:
+    explicit TextArgument(const wchar_t* text);
+    ~TextArgument();
+    TextArgument(const TextArgument&) = delete;
+    TextArgument& operator=(const TextArgument&) = delete;
+    operator const VARIANT&() const { return m_value; }
+
+private:
+    VARIANT m_value;
+};
+
+// Values as the clients send them.
+VARIANT Long(LONG value);
+VARIANT Short(SHORT value);
+VARIANT Double(double value);
+VARIANT Bool(bool value);
+TextArgument Text(const wchar_t* value);
+VARIANT Object(IDispatch* value);
+VARIANT Missing();
+
+// A result read as a number or text, for assertions.
+LONG AsLong(const OleVariant& value);
+std::wstring AsText(const OleVariant& value);
+
+} // namespace tolva::win32::test
