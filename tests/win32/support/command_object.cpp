@@ -9,7 +9,9 @@ CommandObject::CommandObject()
 
 SurfaceListener& CommandObject::Input() const
 {
-    return *dynamic_cast<WindowlessSurface&>(Object().ControlSurface()).Listener();
+    // The control listens to its surface through a private base; the cast reaches it whatever
+    // kind of surface the object gave it.
+    return (SurfaceListener&)Control();
 }
 
 void CommandObject::Release()

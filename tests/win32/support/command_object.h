@@ -1,7 +1,6 @@
 #pragma once
 #include "controls/command/tolva_command.h"
 #include "platform/win32/com/control_object.h"
-#include "platform/win32/windowless/windowless_surface.h"
 
 namespace tolva::win32 {
 extern const ControlClass TolvaCommandClass;
@@ -9,8 +8,8 @@ extern const ControlClass TolvaCommandClass;
 
 namespace tolva::win32::test {
 
-// A TolvaCommand COM object made in the test's own process, with its windowless surface, so that
-// a test can play the window and deliver mouse and key input.
+// A TolvaCommand COM object made in the test's own process, whose input a test delivers as the
+// control's window would.
 class CommandObject {
 public:
     CommandObject();

@@ -1,0 +1,102 @@
+// Self-registration of TolvaKit.dll, machine-wide (regsvr32) and per user (DllInstall "user").
+// The run registered the DLL before the tests; every test leaves it registered.
+#include "platform/win32/com/com_ptr.h"
+#include "tests/win32/dll/tolva_kit_dll.h"
+#include <gtest/gtest.h>
+#include <oleauto.h>
+
+namespace tolva::win32::test {
+namespace {
+
+const std::wstring ClassKey = L"CLSID\\" + GuidText(TolvaCommandClsid);
+const std::wstring LibraryKey = L"TypeLib\\" + GuidText(TolvaKitLibraryId);
+#ifdef _WIN64
+const wchar_t* const Platform = L"win64";
+#else
+const wchar_t* const Platform = L"win32";
+#endif
+
+bool SamePath(const std::wstring& a, const std::wstring& b)
+{
+    return _wcsicmp(a.c_str(), b.c_str()) == 0;
+}
+
+class Registration : public testing::Test {
+protected:
+    void TearDown() override { ASSERT_EQ(dll.RegisterServer(), S_OK); }
+    TolvaKitDll dll;
+};
+
+TEST_F(Registration, RegistersTheControlClassForInProcessUse)
+{
+    ASSERT_EQ(dll.RegisterServer(), S_OK);
+    EXPECT_TRUE(SamePath(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\InprocServer32"), TolvaKitDll::Path()));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\InprocServer32", L"ThreadingModel"), L"Apartment");
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\ProgID"), L"TolvaKit.TolvaCommand.1");
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\VersionIndependentProgID"), L"TolvaKit.TolvaCommand");
+    EXPECT_TRUE(RegistryKeyExists(HKEY_CLASSES_ROOT, ClassKey + L"\\Control"));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\MiscStatus\\1"), L"131473");
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand\\CLSID"), GuidText(TolvaCommandClsid));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand\\CurVer"), L"TolvaKit.TolvaCommand.1");
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand.1\\CLSID"), GuidText(TolvaCommandClsid));
+    EXPECT_TRUE(SamePath(RegistryText(HKEY_CLASSES_ROOT, LibraryKey + L"\\1.0\\0\\" + Platform), TolvaKitDll::Path()));
+    for (const IID* iid : { &TolvaCommandDispatchIid, &TolvaCommandEventsIid }) {
+        std::wstring key = L"Interface\\" + GuidText(*iid);
+        EXPECT_EQ(
+            RegistryText(HKEY_CLASSES_ROOT, key + L"\\ProxyStubClsid32"), L"{00020420-0000-0000-C000-000000000046}");
+        EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, key + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
+    }
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(TolvaCommandEventsIid)), L"__TolvaCommand");
+}
+
+TEST_F(Registration, TheTypeLibraryLoadsFromTheRegistry)
+{
+    ComPtr<ITypeLib> library;
+    ASSERT_EQ(LoadRegTypeLib(TolvaKitLibraryId, 1, 0, LOCALE_NEUTRAL, library.Put()), S_OK);
+    ComPtr<ITypeInfo> coclass;
+    EXPECT_EQ(library->GetTypeInfoOfGuid(TolvaCommandClsid, coclass.Put()), S_OK);
+}
+
+TEST_F(Registration, UnregisteringRemovesClassProgIdsAndTypeLibrary)
+{
+    ASSERT_EQ(dll.UnregisterServer(), S_OK);
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, ClassKey));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand"));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand.1"));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, LibraryKey));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(TolvaCommandDispatchIid)));
+    ComPtr<IUnknown> object;
+    EXPECT_EQ(CoCreateInstance(TolvaCommandClsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object.PutVoid()),
+        REGDB_E_CLASSNOTREG);
+    CLSID clsid = {};
+    EXPECT_NE(CLSIDFromProgID(L"TolvaKit.TolvaCommand", &clsid), S_OK);
+    // Unregistering twice is harmless.
+    EXPECT_EQ(dll.UnregisterServer(), S_OK);
+}
+
+TEST_F(Registration, PerUserInstallWritesUnderTheUsersClassesOnly)
+{
+    const std::wstring user = L"Software\\Classes\\";
+    ASSERT_EQ(dll.UnregisterServer(), S_OK);
+    ASSERT_EQ(dll.Install(true, L"user"), S_OK);
+    EXPECT_TRUE(SamePath(RegistryText(HKEY_CURRENT_USER, user + ClassKey + L"\\InprocServer32"), TolvaKitDll::Path()));
+    EXPECT_EQ(RegistryText(HKEY_CURRENT_USER, user + L"TolvaKit.TolvaCommand\\CLSID"), GuidText(TolvaCommandClsid));
+    EXPECT_TRUE(RegistryKeyExists(HKEY_CURRENT_USER, user + LibraryKey + L"\\1.0\\0\\" + Platform));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_LOCAL_MACHINE, L"Software\\Classes\\" + ClassKey));
+
+    ASSERT_EQ(dll.Install(false, L"USER"), S_OK);
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CURRENT_USER, user + ClassKey));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CURRENT_USER, user + L"TolvaKit.TolvaCommand"));
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CURRENT_USER, user + LibraryKey));
+}
+
+TEST_F(Registration, InstallWithoutUserIsTheMachineRegistration)
+{
+    ASSERT_EQ(dll.UnregisterServer(), S_OK);
+    ASSERT_EQ(dll.Install(true, nullptr), S_OK);
+    EXPECT_TRUE(RegistryKeyExists(HKEY_CLASSES_ROOT, ClassKey));
+}
+
+} // namespace
+} // namespace tolva::win32::test
