@@ -17,6 +17,8 @@ struct Scene {
 
 // The scenes of each control, one function per control; AllScenes lists them all.
 std::vector<Scene> CommandScenes();
+std::vector<Scene> LabelScenes();
+std::vector<Scene> ScrollScenes();
 std::vector<Scene> AllScenes();
 
 } // namespace tolva::render

@@ -2,6 +2,7 @@
 #include "platform/headless/headless_surface.h"
 #include "platform/headless/test_parent_form.h"
 #include "platform/headless/test_site.h"
+#include <memory>
 
 namespace tolva::render {
 
@@ -18,13 +19,19 @@ public:
     headless::TestSite& Site() { return m_site; }
     headless::TestParentForm& Form() { return m_form; }
     headless::WindowTree& Tree() { return m_tree; }
-    const headless::RasterCanvas& Image() const { return m_surface.WindowImage(); }
+    // Keeps a control alive until its picture is taken: one with parts (child windows) would
+    // take them along when it goes.
+    void Keep(std::shared_ptr<void> control) { m_kept = std::move(control); }
+
+    // The control as a form shows it: its border, its client area and the windows of its parts.
+    headless::RasterCanvas Image() const;
 
 private:
     headless::WindowTree m_tree;
     headless::HeadlessSurface m_surface { m_tree };
     headless::TestParentForm m_form;
     headless::TestSite m_site;
+    std::shared_ptr<void> m_kept; // goes first, while its windows' tree is still there
 };
 
 } // namespace tolva::render
