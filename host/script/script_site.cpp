@@ -1,0 +1,114 @@
+#include "host/script/script_site.h"
+#include "host/script/script_host.h"
+#include "platform/win32/com/bstr.h"
+#include <cwctype>
+
+namespace tolva::win32 {
+
+HRESULT ScriptSite::QueryInterface(REFIID iid, void** out)
+{
+    if (!out)
+        return E_POINTER;
+    if (iid == IID_IUnknown || iid == IID_IActiveScriptSite)
+        *out = static_cast<IActiveScriptSite*>(this);
+    else if (iid == IID_IServiceProvider)
+        *out = static_cast<IServiceProvider*>(this);
+    else {
+        *out = nullptr;
+        return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+}
+
+ULONG ScriptSite::AddRef()
+{
+    return ULONG(InterlockedIncrement(&m_references));
+}
+
+ULONG ScriptSite::Release()
+{
+    LONG left = InterlockedDecrement(&m_references);
+    if (left == 0)
+        delete this;
+    return ULONG(left);
+}
+
+HRESULT ScriptSite::GetLCID(LCID*)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT ScriptSite::GetItemInfo(LPCOLESTR name, DWORD mask, IUnknown** item, ITypeInfo** info)
+{
+    if (item)
+        *item = nullptr;
+    if (info)
+        *info = nullptr;
+    IUnknown* object = m_host.NamedObject(name);
+    if (!object)
+        return TYPE_E_ELEMENTNOTFOUND;
+    if ((mask & SCRIPTINFO_IUNKNOWN) && item) {
+        *item = object;
+        object->AddRef();
+    }
+    if ((mask & SCRIPTINFO_ITYPEINFO) && info) {
+        ComPtr<IDispatch> dispatch = ComPtr<IUnknown>(object).As<IDispatch>(IID_IDispatch);
+        if (!dispatch || FAILED(dispatch->GetTypeInfo(0, LOCALE_USER_DEFAULT, info)))
+            *info = nullptr;
+    }
+    return S_OK;
+}
+
+HRESULT ScriptSite::GetDocVersionString(BSTR*)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT ScriptSite::OnScriptError(IActiveScriptError* error)
+{
+    ScriptError reported;
+    EXCEPINFO info = {};
+    if (SUCCEEDED(error->GetExceptionInfo(&info))) {
+        if (info.pfnDeferredFillIn)
+            info.pfnDeferredFillIn(&info);
+        reported.code = info.scode ? info.scode : long(0x800A0000u + info.wCode);
+        reported.source = info.bstrSource ? info.bstrSource : L"";
+        reported.description = info.bstrDescription ? info.bstrDescription : L"";
+        SysFreeString(info.bstrSource);
+        SysFreeString(info.bstrDescription);
+        SysFreeString(info.bstrHelpFile);
+    }
+    if (reported.description.empty()) {
+        // Some engines report a bare HRESULT (Wine's VBScript for a division by zero).
+        wchar_t* text = nullptr;
+        if (FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                nullptr, DWORD(reported.code), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr)) {
+            reported.description = text;
+            while (!reported.description.empty() && iswspace(reported.description.back()))
+                reported.description.pop_back();
+            LocalFree(text);
+        }
+    }
+    DWORD context = 0;
+    ULONG line = 0;
+    LONG column = 0;
+    if (SUCCEEDED(error->GetSourcePosition(&context, &line, &column))) {
+        reported.line = line + 1;
+        reported.column = column + 1;
+    }
+    Bstr text;
+    if (SUCCEEDED(error->GetSourceLineText(text.Put())) && text.Get())
+        reported.lineText = text.Get();
+    m_host.ReportError(std::move(reported));
+    return S_OK;
+}
+
+HRESULT ScriptSite::QueryService(REFGUID, REFIID, void** out)
+{
+    if (out)
+        *out = nullptr;
+    return E_NOINTERFACE;
+}
+
+} // namespace tolva::win32
