@@ -5,9 +5,11 @@ namespace tolva::win32 {
 
 // One binding file per control defines its class.
 extern const ControlClass TolvaCommandClass;
+extern const ControlClass TolvaLabelClass;
+extern const ControlClass TolvaScrollClass;
 
 namespace {
-const std::array<const ControlClass*, 1> Classes = { &TolvaCommandClass };
+const std::array<const ControlClass*, 3> Classes = { &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass };
 }
 
 std::span<const ControlClass* const> ControlClasses()
