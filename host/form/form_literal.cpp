@@ -111,12 +111,16 @@ std::string FormatCurrency(Currency value)
 {
     const int64_t raw = value.Raw();
     const uint64_t magnitude = raw < 0 ? uint64_t(0) - uint64_t(raw) : uint64_t(raw);
-    std::string text = (raw < 0 ? "-" : "") + std::to_string(magnitude / Currency::Scale);
-    std::string fraction = std::to_string(magnitude % Currency::Scale);
-    fraction.insert(0, 4 - fraction.size(), '0');
-    while (!fraction.empty() && fraction.back() == '0')
-        fraction.pop_back();
-    return fraction.empty() ? text : text + "." + fraction;
+    std::string text = raw < 0 ? "-" : "";
+    text += std::to_string(magnitude / Currency::Scale);
+    char fraction[8];
+    std::snprintf(fraction, sizeof fraction, ".%04u", unsigned(magnitude % Currency::Scale));
+    std::string_view decimals = fraction;
+    while (decimals.back() == '0')
+        decimals.remove_suffix(1);
+    if (decimals.size() > 1)
+        text += decimals;
+    return text;
 }
 
 std::string FormatString(const String& value)

@@ -1,5 +1,4 @@
 #include "platform/win32/window/about_box.h"
-#include "platform/win32/window/message_box.h"
 #include "tests/gui/gui_support.h"
 #include <gtest/gtest.h>
 #include <string>
@@ -85,28 +84,6 @@ TEST(AboutBox, LeavesNoGdiObjectsBehind)
     for (int i = 0; i < 5; ++i)
         showAndClose();
     EXPECT_EQ(test::GdiObjectCount(), before);
-}
-
-TEST(MessageBox, IsOwnedByTheGivenWindowAndReturnsTheButton)
-{
-    test::TestWindow owner(200, 100);
-    std::wstring text;
-    HWND shownOwner = nullptr;
-    test::ModalDriver driver([&] {
-        HWND box = FindWindowW(L"#32770", L"TolvaKit");
-        if (!box)
-            return false;
-        shownOwner = GetWindow(box, GW_OWNER);
-        for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-            if (TextOf(child).find(L"Invalid") != std::wstring::npos)
-                text = TextOf(child);
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
-        return true;
-    });
-    EXPECT_EQ(ShowMessageBox(owner.Get(), u"Invalid property value", MB_OK | MB_ICONEXCLAMATION), IDOK);
-    EXPECT_TRUE(driver.Done());
-    EXPECT_EQ(text, L"Invalid property value");
-    EXPECT_EQ(shownOwner, owner.Get());
 }
 
 } // namespace

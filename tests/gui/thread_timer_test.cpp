@@ -1,4 +1,4 @@
-#include "platform/win32/window/window_timer.h"
+#include "platform/win32/windowless/thread_timer.h"
 #include "tests/gui/gui_support.h"
 #include <gtest/gtest.h>
 #include <memory>
@@ -6,9 +6,9 @@
 namespace tolva::win32 {
 namespace {
 
-TEST(WindowTimer, TicksThroughTheMessageLoopWhileEnabled)
+TEST(ThreadTimer, TicksThroughTheMessageLoopWhileEnabled)
 {
-    WindowTimer timer;
+    ThreadTimer timer(nullptr);
     int ticks = 0;
     timer.SetTickHandler([&] { ++ticks; });
     timer.SetInterval(10);
@@ -20,9 +20,9 @@ TEST(WindowTimer, TicksThroughTheMessageLoopWhileEnabled)
     EXPECT_EQ(ticks, stopped);
 }
 
-TEST(WindowTimer, DoesNotRunWithoutAPositiveInterval)
+TEST(ThreadTimer, DoesNotRunWithoutAPositiveInterval)
 {
-    WindowTimer timer;
+    ThreadTimer timer(nullptr);
     int ticks = 0;
     timer.SetTickHandler([&] { ++ticks; });
     timer.SetEnabled(true);
@@ -33,9 +33,9 @@ TEST(WindowTimer, DoesNotRunWithoutAPositiveInterval)
     EXPECT_TRUE(test::PumpUntil([&] { return ticks > 0; }));
 }
 
-TEST(WindowTimer, AHandlerMayDestroyItsOwnTimer)
+TEST(ThreadTimer, AHandlerMayDestroyItsOwnTimer)
 {
-    auto timer = std::make_unique<WindowTimer>();
+    auto timer = std::make_unique<ThreadTimer>(nullptr);
     int ticks = 0;
     timer->SetTickHandler([&] {
         ++ticks;
@@ -48,10 +48,10 @@ TEST(WindowTimer, AHandlerMayDestroyItsOwnTimer)
     EXPECT_EQ(ticks, 1);
 }
 
-TEST(WindowTimer, KeepsTimersApart)
+TEST(ThreadTimer, KeepsTimersApart)
 {
-    WindowTimer fast;
-    WindowTimer slow;
+    ThreadTimer fast(nullptr);
+    ThreadTimer slow(nullptr);
     int fastTicks = 0;
     int slowTicks = 0;
     fast.SetTickHandler([&] { ++fastTicks; });

@@ -6,6 +6,12 @@
 #include "platform/win32/com/parts/object_safety_part.h"
 #include "platform/win32/com/parts/persist_bag_part.h"
 #include "platform/win32/com/parts/persist_stream_part.h"
+#include "platform/win32/inplace/in_place_part.h"
+#include "platform/win32/inplace/ole_control_part.h"
+#include "platform/win32/inplace/ole_object_part.h"
+#include "platform/win32/inplace/property_pages_part.h"
+#include "platform/win32/inplace/quick_activate_part.h"
+#include "platform/win32/inplace/view_object_part.h"
 
 namespace tolva::win32 {
 
@@ -19,6 +25,12 @@ std::vector<std::unique_ptr<ObjectPart>> CreateObjectParts(ControlObject& object
     parts.push_back(std::make_unique<PersistStreamPart>(object));
     parts.push_back(std::make_unique<PersistBagPart>(object));
     parts.push_back(std::make_unique<ObjectSafetyPart>(object));
+    parts.push_back(std::make_unique<OleObjectPart>(object));
+    parts.push_back(std::make_unique<InPlacePart>(object));
+    parts.push_back(std::make_unique<OleControlPart>(object));
+    parts.push_back(std::make_unique<ViewObjectPart>(object));
+    parts.push_back(std::make_unique<QuickActivatePart>(object));
+    parts.push_back(std::make_unique<PropertyPagesPart>(object));
     return parts;
 }
 

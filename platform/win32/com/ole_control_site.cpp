@@ -4,6 +4,7 @@
 #include "platform/win32/com/dispatch_call.h"
 #include "platform/win32/com/dispatch_parent_form.h"
 #include "platform/win32/com/font_conversion.h"
+#include "platform/win32/window/about_box.h"
 #include <olectl.h>
 
 namespace tolva::win32 {
@@ -159,8 +160,7 @@ void OleControlSite::Beep()
 void OleControlSite::ShowAboutBox()
 {
     if (HWND owner = OwnerWindow())
-        MessageBoxW(owner, L"TolvaKit controls for financial data-entry forms\nVersion 1.0", L"About TolvaKit",
-            MB_OK | MB_ICONINFORMATION);
+        win32::ShowAboutBox(owner);
 }
 
 } // namespace tolva::win32

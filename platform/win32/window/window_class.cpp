@@ -1,5 +1,5 @@
 #include "platform/win32/window/window_class.h"
-#include "platform/win32/window/this_module.h"
+#include "platform/win32/com/module.h"
 
 namespace tolva::win32 {
 
@@ -10,7 +10,7 @@ WindowClass::WindowClass(const wchar_t* name, WNDPROC procedure, UINT style)
     wc.cbSize = sizeof wc;
     wc.style = style;
     wc.lpfnWndProc = procedure;
-    wc.hInstance = ThisModule();
+    wc.hInstance = Module::Handle();
     wc.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     wc.lpszClassName = name;
     m_atom = RegisterClassExW(&wc);
@@ -19,7 +19,7 @@ WindowClass::WindowClass(const wchar_t* name, WNDPROC procedure, UINT style)
 WindowClass::~WindowClass()
 {
     if (m_atom)
-        UnregisterClassW(m_name, ThisModule());
+        UnregisterClassW(m_name, Module::Handle());
 }
 
 } // namespace tolva::win32

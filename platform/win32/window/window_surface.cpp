@@ -1,11 +1,10 @@
 #include "platform/win32/window/window_surface.h"
+#include "platform/win32/com/module.h"
 #include "platform/win32/gdi/gdi_canvas.h"
 #include "platform/win32/gdi/gdi_object.h"
 #include "platform/win32/gdi/window_dc.h"
 #include "platform/win32/window/input_state.h"
-#include "platform/win32/window/this_module.h"
 #include "platform/win32/window/window_class.h"
-#include "platform/win32/window/window_timer.h"
 #include <algorithm>
 #include <cmath>
 #include <windowsx.h>
@@ -44,10 +43,15 @@ const wchar_t* WindowSurface::ClassName()
     return windowClass.Name();
 }
 
-WindowSurface::WindowSurface() = default;
+WindowSurface::WindowSurface(IUnknown* keepAlive)
+    : WindowlessSurface(keepAlive)
+    , m_keepAlive(keepAlive)
+{ }
 
 WindowSurface::WindowSurface(WindowSurface* parent)
-    : m_parent(parent)
+    : WindowlessSurface(parent->m_keepAlive)
+    , m_keepAlive(parent->m_keepAlive)
+    , m_parent(parent)
     , m_canGetFocus(false)
 {
     m_parent->m_children.push_back(this);
@@ -57,11 +61,19 @@ WindowSurface::WindowSurface(WindowSurface* parent)
 
 WindowSurface::~WindowSurface()
 {
+    DropKeepAlive();
     for (WindowSurface* child : m_children)
         child->m_parent = nullptr;
     if (m_parent)
         std::erase(m_parent->m_children, this);
     DestroyWindow();
+}
+
+void WindowSurface::DropKeepAlive()
+{
+    m_keepAlive = nullptr;
+    for (WindowSurface* child : m_children)
+        child->DropKeepAlive();
 }
 
 void WindowSurface::CreateWindowIn(HWND parent, const RECT& rect)
@@ -71,8 +83,8 @@ void WindowSurface::CreateWindowIn(HWND parent, const RECT& rect)
     SurfaceProperties::Move(
         ToTwips(rect.left), ToTwips(rect.top), ToTwips(rect.right - rect.left), ToTwips(rect.bottom - rect.top));
     CreateOwnWindow(parent);
-    if ((Width() != oldWidth || Height() != oldHeight) && m_listener)
-        m_listener->OnResize();
+    if (SurfaceListener* listener = Listener(); listener && (Width() != oldWidth || Height() != oldHeight))
+        listener->OnResize();
 }
 
 void WindowSurface::CreateOwnWindow(HWND parent)
@@ -86,7 +98,7 @@ void WindowSurface::CreateOwnWindow(HWND parent)
         style |= WS_TABSTOP;
     const RECT rect = PixelRect();
     CreateWindowExW(BorderStyle() == 1 ? WS_EX_CLIENTEDGE : 0, ClassName(), L"", style, rect.left, rect.top,
-        rect.right - rect.left, rect.bottom - rect.top, parent, nullptr, ThisModule(), this);
+        rect.right - rect.left, rect.bottom - rect.top, parent, nullptr, Module::Handle(), this);
     if (!m_window)
         return;
     for (WindowSurface* child : m_children)
@@ -135,8 +147,8 @@ bool WindowSurface::AcceptsInput() const
 
 void WindowSurface::PressAccessKey(char16_t key)
 {
-    if (m_listener && AcceptsInput() && HasAccessKey(key))
-        m_listener->OnAccessKeyPress(key);
+    if (SurfaceListener* listener = Listener(); listener && AcceptsInput() && HasAccessKey(key))
+        listener->OnAccessKeyPress(key);
 }
 
 void WindowSurface::DrawTo(HDC dc, const RECT& bounds)
@@ -175,8 +187,8 @@ void WindowSurface::PaintTree()
             m_target.y - border + ToPixels(Height()) };
         DrawEdge(m_target.dc, &edge, EDGE_SUNKEN, BF_RECT);
     }
-    if (m_listener)
-        m_listener->OnPaint();
+    if (SurfaceListener* listener = Listener())
+        listener->OnPaint();
     for (WindowSurface* child : m_children)
         if (child->Visible())
             child->PaintTree();
@@ -200,8 +212,8 @@ void WindowSurface::Move(float left, float top, float width, float height)
             SWP_NOZORDER | SWP_NOACTIVATE);
         m_moving = false;
     }
-    if ((Width() != oldWidth || Height() != oldHeight) && m_listener)
-        m_listener->OnResize();
+    if (SurfaceListener* listener = Listener(); listener && (Width() != oldWidth || Height() != oldHeight))
+        listener->OnResize();
 }
 
 void WindowSurface::SetEnabled(bool enabled)
@@ -313,11 +325,6 @@ std::unique_ptr<Surface> WindowSurface::CreateChild()
     return std::unique_ptr<Surface>(new WindowSurface(this));
 }
 
-std::unique_ptr<Timer> WindowSurface::CreateTimer()
-{
-    return std::make_unique<WindowTimer>();
-}
-
 LRESULT CALLBACK WindowSurface::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_NCCREATE) {
@@ -333,9 +340,17 @@ LRESULT CALLBACK WindowSurface::WindowProc(HWND window, UINT message, WPARAM wPa
         surface->Forget();
         return DefWindowProcW(window, message, wParam, lParam);
     }
+    IUnknown* keepAlive = surface->m_keepAlive;
     try {
-        return surface->HandleMessage(window, message, wParam, lParam);
+        if (keepAlive)
+            keepAlive->AddRef();
+        const LRESULT result = surface->HandleMessage(window, message, wParam, lParam);
+        if (keepAlive)
+            keepAlive->Release();
+        return result;
     } catch (...) {
+        if (keepAlive)
+            keepAlive->Release();
         // Nothing above a window procedure could take the error.
         return 0;
     }
@@ -354,7 +369,7 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         return 0;
     case WM_ERASEBKGND:
         // A control paints every pixel itself; erasing first would only flicker.
-        if (!m_listener) {
+        if (!Listener()) {
             RECT client;
             GetClientRect(window, &client);
             FillWithColor(reinterpret_cast<HDC>(wParam), client, BackColor());
@@ -381,14 +396,14 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
     case WM_KEYUP: {
         int16_t keyCode = int16_t(wParam);
         int16_t shift = InputState::ShiftKeys();
-        if (m_listener)
-            message == WM_KEYDOWN ? m_listener->OnKeyDown(keyCode, shift) : m_listener->OnKeyUp(keyCode, shift);
+        if (SurfaceListener* listener = Listener())
+            message == WM_KEYDOWN ? listener->OnKeyDown(keyCode, shift) : listener->OnKeyUp(keyCode, shift);
         return 0;
     }
     case WM_CHAR: {
         int16_t keyAscii = int16_t(wParam);
-        if (m_listener)
-            m_listener->OnKeyPress(keyAscii);
+        if (SurfaceListener* listener = Listener())
+            listener->OnKeyPress(keyAscii);
         return 0;
     }
     case WM_GETDLGCODE: {
@@ -403,14 +418,14 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         const std::weak_ptr<int> alive = m_lifetime;
         if (m_owner)
             m_owner->OnSurfaceFocus(true);
-        if (!alive.expired() && m_listener)
-            m_listener->OnGotFocus();
+        if (SurfaceListener* listener = alive.expired() ? nullptr : Listener())
+            listener->OnGotFocus();
         return 0;
     }
     case WM_KILLFOCUS: {
         const std::weak_ptr<int> alive = m_lifetime;
-        if (m_listener)
-            m_listener->OnLostFocus();
+        if (SurfaceListener* listener = Listener())
+            listener->OnLostFocus();
         if (!alive.expired() && m_owner)
             m_owner->OnSurfaceFocus(false);
         return 0;
@@ -428,9 +443,9 @@ void WindowSurface::OnPaintMessage(HWND window)
     PAINTSTRUCT paint;
     HDC dc = BeginPaint(window, &paint);
     const std::weak_ptr<int> alive = m_lifetime;
-    if (m_listener) {
+    if (SurfaceListener* listener = Listener()) {
         m_target = Target { dc, 0, 0 };
-        m_listener->OnPaint();
+        listener->OnPaint();
         if (!alive.expired())
             m_target = Target {};
     } else {
@@ -451,21 +466,21 @@ void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPA
 
     switch (message) {
     case WM_MOUSEMOVE:
-        if (m_listener)
-            m_listener->OnMouseMove(InputState::ButtonsHeld(wParam), shift, x, y);
+        if (SurfaceListener* listener = Listener())
+            listener->OnMouseMove(InputState::ButtonsHeld(wParam), shift, x, y);
         return;
     case WM_LBUTTONDBLCLK:
         m_buttonsDown |= button;
         ::SetCapture(window);
-        if (m_listener)
-            m_listener->OnDblClick();
+        if (SurfaceListener* listener = Listener())
+            listener->OnDblClick();
         return;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
         m_buttonsDown &= int16_t(~button);
-        if (m_listener)
-            m_listener->OnMouseUp(button, shift, x, y);
+        if (SurfaceListener* listener = Listener())
+            listener->OnMouseUp(button, shift, x, y);
         if (!alive.expired() && !m_buttonsDown && GetCapture() == window)
             ::ReleaseCapture();
         return;
@@ -477,8 +492,8 @@ void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPA
             if (alive.expired())
                 return;
         }
-        if (m_listener)
-            m_listener->OnMouseDown(button, shift, x, y);
+        if (SurfaceListener* listener = Listener())
+            listener->OnMouseDown(button, shift, x, y);
         return;
     }
 }
@@ -495,8 +510,8 @@ void WindowSurface::OnSizeMessage(HWND window)
     if (width == ToPixels(Width()) && height == ToPixels(Height()))
         return;
     SurfaceProperties::Move(Left(), Top(), ToTwips(width), ToTwips(height));
-    if (m_listener)
-        m_listener->OnResize();
+    if (SurfaceListener* listener = Listener())
+        listener->OnResize();
 }
 
 } // namespace tolva::win32

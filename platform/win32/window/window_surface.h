@@ -1,21 +1,22 @@
 #pragma once
-#include "core/surface_properties.h"
+#include "platform/win32/windowless/windowless_surface.h"
 #include "platform/win32/windows_api.h"
 #include <memory>
+#include <objbase.h>
 #include <vector>
 
 namespace tolva::win32 {
 
 class GdiCanvas;
 
-// A control's surface over a child window of our own class. The surface exists before and after
-// its window: a control is created, loaded and saved without a container, and its window comes
-// and goes with in-place activation (CreateWindowIn / DestroyWindow). Without a window the
-// properties still hold, drawing reaches only a container's Draw call (DrawTo), and the window
-// services answer as an unfocused, uncaptured window at the screen origin.
+// A control's surface over a child window of our own class: a windowless surface that gains a
+// window while its control is active in place. The surface exists before and after its window: a control is created,
+// loaded and saved without a container, and its window comes and goes with in-place activation (CreateWindowIn /
+// DestroyWindow). Without a window the properties still hold, drawing reaches only a container's Draw call (DrawTo),
+// and the window services answer as an unfocused, uncaptured window at the screen origin.
 //
 // Children (CreateChild) get their windows inside their parent's, at their own geometry.
-class WindowSurface final : public SurfaceProperties {
+class WindowSurface final : public WindowlessSurface {
 public:
     // What the control's COM object wants to hear from the window, to tell its container.
     class Owner {
@@ -29,12 +30,17 @@ public:
         ~Owner() = default;
     };
 
-    WindowSurface();
+    // keepAlive: the COM object of the control, held while a window message is handled, since an
+    // event raised from it may release the object (may be null).
+    explicit WindowSurface(IUnknown* keepAlive = nullptr);
     ~WindowSurface() override;
     WindowSurface(const WindowSurface&) = delete;
     WindowSurface& operator=(const WindowSurface&) = delete;
 
     void SetOwner(Owner* owner) { m_owner = owner; }
+    // Stops holding the COM object during messages, here and in the children: its last
+    // reference is going, and the window's last messages must not revive it.
+    void DropKeepAlive();
 
     // Creates the window as a child of parent at rect (the parent's client pixels) and the
     // windows of the children; the surface's geometry becomes rect in twips.
@@ -59,8 +65,6 @@ public:
     void DrawTo(HDC dc, const RECT& bounds);
 
     // Surface.
-    void SetListener(SurfaceListener* listener) override { m_listener = listener; }
-    SurfaceListener* Listener() const { return m_listener; }
     void Move(float left, float top, float width, float height) override;
     void SetEnabled(bool enabled) override;
     void SetBorderStyle(int16_t style) override;
@@ -74,7 +78,6 @@ public:
     std::unique_ptr<Canvas> CreateCanvas(int32_t width, int32_t height) override;
     void Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height) override;
     std::unique_ptr<Surface> CreateChild() override;
-    std::unique_ptr<Timer> CreateTimer() override;
 
 private:
     // Where Present copies to instead of the window: a container's device context (DrawTo) at
@@ -100,10 +103,10 @@ private:
     void PaintTree();
     void EndRedirectTree();
 
+    IUnknown* m_keepAlive = nullptr;
     WindowSurface* m_parent = nullptr;
     std::vector<WindowSurface*> m_children;
     Owner* m_owner = nullptr;
-    SurfaceListener* m_listener = nullptr;
     HWND m_window = nullptr;
     Target m_target;
     bool m_canGetFocus = true;

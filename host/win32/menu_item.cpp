@@ -1,0 +1,184 @@
+#include "host/win32/menu_item.h"
+#include "core/automation_error.h"
+#include "host/form/form_syntax_error.h"
+#include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/bstr.h"
+
+namespace tolva::host {
+
+namespace {
+
+enum : DISPID { NameId = 1, CaptionId, EnabledId, CheckedId, VisibleId };
+
+constexpr DispatchObject::Member MenuMembers[] = {
+    { L"Name", NameId },
+    { L"Caption", CaptionId },
+    { L"Enabled", EnabledId },
+    { L"Checked", CheckedId },
+    { L"Visible", VisibleId },
+};
+
+bool Flag(const FormObject& definition, StringView key, bool fallback)
+{
+    const FormProperty* property = definition.Find(key);
+    if (!property)
+        return fallback;
+    try {
+        return property->value.ToBool();
+    } catch (const AutomationError&) {
+        throw FormSyntaxError(property->line, ToUtf8(key) + " must be True or False");
+    }
+}
+
+} // namespace
+
+win32::ComPtr<MenuItem> MenuItem::FromForm(const FormObject& definition, UINT& nextId)
+{
+    if (!SameIdentifier(definition.type, u"VB.Menu"))
+        throw FormSyntaxError(definition.line, "a menu holds only VB.Menu blocks, not " + ToUtf8(definition.type));
+    auto item = win32::ComPtr<MenuItem>::Adopt(new MenuItem());
+    item->m_definition = FormObject(definition.type, definition.name, definition.line);
+    item->m_definition.properties = definition.properties;
+    item->m_id = nextId++;
+    if (const FormProperty* caption = definition.Find(u"Caption")) {
+        if (!caption->value.Holds<String>())
+            throw FormSyntaxError(caption->line, "Caption must be a text");
+        item->m_caption = caption->value.ToString();
+    }
+    item->m_enabled = Flag(definition, u"Enabled", true);
+    item->m_checked = Flag(definition, u"Checked", false);
+    item->m_visible = Flag(definition, u"Visible", true);
+    for (const FormObject& child : definition.children)
+        item->m_items.push_back(FromForm(child, nextId));
+    return item;
+}
+
+MenuItem* MenuItem::FindById(UINT id)
+{
+    if (m_id == id)
+        return this;
+    for (auto& item : m_items)
+        if (MenuItem* found = item->FindById(id))
+            return found;
+    return nullptr;
+}
+
+MenuItem* MenuItem::FindByName(StringView name)
+{
+    if (SameIdentifier(Name(), name))
+        return this;
+    for (auto& item : m_items)
+        if (MenuItem* found = item->FindByName(name))
+            return found;
+    return nullptr;
+}
+
+HMENU MenuItem::CreatePopup() const
+{
+    HMENU menu = CreatePopupMenu();
+    AppendItems(menu);
+    return menu;
+}
+
+void MenuItem::AppendItems(HMENU menu) const
+{
+    for (const auto& item : m_items) {
+        if (!item->m_visible)
+            continue;
+        if (item->m_caption == u"-") {
+            AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+            continue;
+        }
+        UINT flags = MF_STRING | (item->m_enabled ? MF_ENABLED : MF_GRAYED) | (item->m_checked ? MF_CHECKED : 0);
+        UINT_PTR id = item->m_id;
+        if (!item->m_items.empty()) {
+            flags |= MF_POPUP;
+            id = reinterpret_cast<UINT_PTR>(item->CreatePopup());
+        }
+        AppendMenuW(menu, flags, id, win32::WidePointer(item->m_caption));
+    }
+}
+
+FormObject MenuItem::ToForm() const
+{
+    FormObject form = m_definition;
+    if (!m_caption.empty() || form.Find(u"Caption"))
+        form.Set(u"Caption", m_caption);
+    // The flags are written only where they differ from a new menu's.
+    const auto flag = [&form](StringView key, bool value, bool fallback) {
+        if (value != fallback || form.Find(key))
+            form.Set(key, value);
+    };
+    flag(u"Enabled", m_enabled, true);
+    flag(u"Checked", m_checked, false);
+    flag(u"Visible", m_visible, true);
+    for (const auto& item : m_items)
+        form.children.push_back(item->ToForm());
+    return form;
+}
+
+void MenuItem::SetChangeHandler(std::function<void()> changed)
+{
+    m_changed = changed;
+    for (auto& item : m_items)
+        item->SetChangeHandler(changed);
+}
+
+std::span<const DispatchObject::Member> MenuItem::Members() const
+{
+    return MenuMembers;
+}
+
+HRESULT MenuItem::Call(DISPID id, WORD flags, std::span<VARIANT*> arguments, VARIANT* result)
+{
+    const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+    if (put) {
+        if (arguments.size() != 1)
+            return DISP_E_BADPARAMCOUNT;
+        const VARIANT& value = *arguments[0];
+        switch (id) {
+        case CaptionId:
+            m_caption = win32::ToText(value);
+            break;
+        case EnabledId:
+            m_enabled = win32::ToBool(value);
+            break;
+        case CheckedId:
+            m_checked = win32::ToBool(value);
+            break;
+        case VisibleId:
+            m_visible = win32::ToBool(value);
+            break;
+        default:
+            return DISP_E_MEMBERNOTFOUND;
+        }
+        if (m_changed)
+            m_changed();
+        return S_OK;
+    }
+    if (!arguments.empty())
+        return DISP_E_BADPARAMCOUNT;
+    if (!result)
+        return S_OK;
+    switch (id) {
+    case NameId:
+        win32::PutText(*result, Name());
+        return S_OK;
+    case CaptionId:
+        win32::PutText(*result, m_caption);
+        return S_OK;
+    case EnabledId:
+        win32::PutBool(*result, m_enabled);
+        return S_OK;
+    case CheckedId:
+        win32::PutBool(*result, m_checked);
+        return S_OK;
+    case VisibleId:
+        win32::PutBool(*result, m_visible);
+        return S_OK;
+    default:
+        return DISP_E_MEMBERNOTFOUND;
+    }
+}
+
+} // namespace tolva::host
