@@ -105,6 +105,12 @@ HRESULT Extender::Call(DISPID id, WORD flags, std::span<VARIANT*> arguments, VAR
         case TagId:
             control.SetTag(win32::ToText(value));
             return S_OK;
+        case DefaultId:
+            if (win32::ToBool(value))
+                control.Form().SetDefaultButton(&control);
+            else if (control.IsDefault())
+                control.Form().SetDefaultButton(nullptr);
+            return S_OK;
         default:
             throw AutomationError::RunTime(RunTimeError::InvalidProcedureCall); // read-only here
         }

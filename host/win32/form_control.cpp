@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdio>
 #include <ocidl.h>
+#include <olectl.h>
 #include <vector>
 
 namespace tolva::host {
@@ -280,6 +281,14 @@ bool FormControl::HandleMnemonic(MSG& message)
     return false;
 }
 
+void FormControl::SetDefault(bool isDefault)
+{
+    if (m_default == isDefault)
+        return;
+    m_default = isDefault;
+    AmbientChanged(DISPID_AMBIENT_DISPLAYASDEFAULT);
+}
+
 void FormControl::AmbientChanged(DISPID id)
 {
     if (auto control = m_object.As<IOleControl>(IID_IOleControl))
@@ -296,6 +305,8 @@ FormObject FormControl::Save() const
     block.Set(u"Height", m_height);
     if (!m_visible || block.Find(u"Visible"))
         block.Set(u"Visible", m_visible);
+    if (m_default || block.Find(u"Default"))
+        block.Set(u"Default", m_default);
     if (!m_tag.empty() || block.Find(u"Tag"))
         block.Set(u"Tag", m_tag);
     if (auto persist = m_object.As<IPersistPropertyBag>(IID_IPersistPropertyBag)) {

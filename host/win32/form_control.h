@@ -26,6 +26,8 @@ public:
     HostForm& Form() const { return m_form; }
     const String& Name() const { return m_name; }
     bool IsDefault() const { return m_default; }
+    // The form makes one control its default button; the control hears of the ambient change.
+    void SetDefault(bool isDefault);
     int TabIndex() const { return m_tabIndex; }
     const String& Tag() const { return m_tag; }
     void SetTag(String tag) { m_tag = std::move(tag); }

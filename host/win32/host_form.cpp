@@ -205,6 +205,15 @@ void HostForm::SetCaption(StringView caption)
         SetWindowTextW(m_window, win32::WidePointer(m_caption));
 }
 
+void HostForm::SetDefaultButton(FormControl* control)
+{
+    for (auto& each : m_controls)
+        if (each.get() != control)
+            each->SetDefault(false);
+    if (control)
+        control->SetDefault(true);
+}
+
 FormControl* HostForm::FindControl(StringView name) const
 {
     for (const auto& control : m_controls)

@@ -46,6 +46,8 @@ public:
     const String& Name() const { return m_name; }
     const String& Caption() const { return m_caption; }
     void SetCaption(StringView caption);
+    // Makes control the form's one default button (or none, with null).
+    void SetDefaultButton(FormControl* control);
     Font AmbientFont() const { return m_font; }
     OleColor BackColor() const { return m_backColor; }
     OleColor ForeColor() const { return m_foreColor; }
