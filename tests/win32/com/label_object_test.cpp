@@ -1,0 +1,296 @@
+// TolvaLabel through IDispatch and its connection point, as a client of the type library meets it.
+#include "controls/label/tolva_label.h"
+#include "platform/win32/com/bstr.h"
+#include "platform/win32/com/module.h"
+#include "platform/win32/com/type_library.h"
+#include "tests/win32/support/dispatch_helpers.h"
+#include "tests/win32/support/event_sink.h"
+#include "tests/win32/support/hosted_object.h"
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <olectl.h>
+
+namespace tolva::win32::test {
+namespace {
+
+constexpr DISPID Click = 1, DblClick = 2, MouseDown = 3, MouseMove = 4, MouseUp = 5;
+constexpr VARTYPE ShortByRef = VT_BYREF | VT_I2;
+constexpr VARTYPE SingleByRef = VT_BYREF | VT_R4;
+constexpr HRESULT InvalidPropertyValue = HRESULT(0x800A017C);
+
+class LabelObject : public testing::Test {
+protected:
+    HostedObject<TolvaLabel> label { TolvaLabelClass };
+    IDispatch* d = label.Dispatch();
+    OleVariant result;
+};
+
+TEST_F(LabelObject, NewObjectWithoutContainerIsALightOnDarkLabelNamedAfterItsClass)
+{
+    ASSERT_EQ(Get(d, L"Caption", result), S_OK);
+    EXPECT_EQ(AsText(result), L"TolvaLabel1");
+    const std::pair<const wchar_t*, LONG> colours[] = { { L"BackColor", 0x000000 }, { L"ForeColor", 0xFFFFFF },
+        { L"ForeColorActive", 0x9CDFF7 }, { L"ForeColorDisabled", 0x808080 }, { L"ForeColorPushed", 0xFFFFFF },
+        { L"BackColorActive", 0x000000 }, { L"BackColorPushed", 0x000000 } };
+    for (auto [name, colour] : colours) {
+        ASSERT_EQ(Get(d, name, result), S_OK) << ToUtf8(ViewOf(name));
+        EXPECT_EQ(V_VT(&result.Get()), VT_I4) << ToUtf8(ViewOf(name));
+        EXPECT_EQ(AsLong(result), colour) << ToUtf8(ViewOf(name));
+    }
+    Get(d, L"Kerning", result);
+    EXPECT_EQ(V_VT(&result.Get()), VT_BOOL);
+    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_FALSE);
+    Get(d, L"Enabled", result);
+    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_TRUE);
+    for (const wchar_t* zero : { L"BorderStyle", L"Alignment", L"ArrowIcon", L"ArrowPosition" }) {
+        Get(d, zero, result);
+        EXPECT_EQ(AsLong(result), 0) << ToUtf8(ViewOf(zero));
+    }
+    Get(d, L"MenuName", result);
+    EXPECT_EQ(AsText(result), L"");
+}
+
+TEST_F(LabelObject, DispatchIdsAreThePublishedOnes)
+{
+    const std::pair<const wchar_t*, DISPID> published[] = {
+        { L"BackColorPushed", 0x68030000 },
+        { L"BackColorActive", 0x68030001 },
+        { L"ForeColorPushed", 0x68030002 },
+        { L"ArrowPosition", 0x68030003 },
+        { L"ArrowIcon", 0x68030004 },
+        { L"ForeColorActive", 0x68030005 },
+        { L"Caption", 0x68030006 },
+        { L"MenuName", 0x68030007 },
+        { L"Kerning", 0x68030008 },
+        { L"BorderStyle", 0x68030009 },
+        { L"Font", 0x6803000A },
+        { L"Enabled", 0x6803000B },
+        { L"ForeColor", 0x6803000C },
+        { L"ForeColorDisabled", 0x6803000D },
+        { L"BackColor", 0x6803000E },
+        { L"Alignment", 0x6803000F },
+        { L"Refresh", 0x60030014 },
+        { L"AboutBox", -552 },
+    };
+    for (auto [name, id] : published)
+        EXPECT_EQ(IdOf(d, name), id) << ToUtf8(ViewOf(name));
+    EXPECT_EQ(IdOf(d, L"kerning"), 0x68030008);
+}
+
+TEST_F(LabelObject, EveryPropertyRoundTripsByNameAndReadsBackByDispatchId)
+{
+    EXPECT_EQ(Put(d, L"Caption", Text(L"&Details")), S_OK);
+    EXPECT_EQ(Put(d, L"MenuName", Text(L"mnuDetails")), S_OK);
+    EXPECT_EQ(Put(d, L"Kerning", Bool(true)), S_OK);
+    EXPECT_EQ(Put(d, L"BorderStyle", Long(1)), S_OK);
+    EXPECT_EQ(Put(d, L"Alignment", Long(1)), S_OK);
+    EXPECT_EQ(Put(d, L"ArrowIcon", Long(5)), S_OK);
+    EXPECT_EQ(Put(d, L"ArrowPosition", Long(3)), S_OK);
+    EXPECT_EQ(Put(d, L"Enabled", Bool(false)), S_OK);
+    const std::pair<const wchar_t*, LONG> colours[] = { { L"BackColorPushed", 0x010101 },
+        { L"BackColorActive", 0x020202 }, { L"ForeColorPushed", 0x030303 }, { L"ForeColorActive", 0x040404 },
+        { L"ForeColor", LONG(0x80000008) }, { L"ForeColorDisabled", 0x060606 }, { L"BackColor", LONG(0x8000000F) } };
+    for (auto [name, colour] : colours)
+        EXPECT_EQ(Put(d, name, Long(colour)), S_OK) << ToUtf8(ViewOf(name));
+
+    const TolvaLabel& c = label.Core();
+    EXPECT_EQ(c.Caption(), u"&Details");
+    EXPECT_EQ(c.MenuName(), u"mnuDetails");
+    EXPECT_TRUE(c.Kerning());
+    EXPECT_EQ(c.BorderStyle(), 1);
+    EXPECT_EQ(c.Alignment(), 1);
+    EXPECT_EQ(c.ArrowIcon(), 5);
+    EXPECT_EQ(c.ArrowPosition(), 3);
+    EXPECT_FALSE(c.Enabled());
+    EXPECT_EQ(c.BackColor(), 0x8000000Fu);
+    EXPECT_EQ(c.ForeColor(), 0x80000008u);
+
+    for (auto [name, colour] : colours) {
+        ASSERT_EQ(Call(d, IdOf(d, name), DISPATCH_PROPERTYGET, {}, result), S_OK);
+        EXPECT_EQ(AsLong(result), colour) << ToUtf8(ViewOf(name));
+    }
+    Call(d, 0x68030006, DISPATCH_PROPERTYGET, {}, result);
+    EXPECT_EQ(AsText(result), L"&Details");
+    Call(d, 0x68030008, DISPATCH_PROPERTYGET, {}, result);
+    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_TRUE);
+    EXPECT_EQ(Call(d, 0x60030014, DISPATCH_METHOD, {}, result), S_OK);
+    EXPECT_EQ(Call(d, -552, DISPATCH_METHOD, {}, result), S_OK); // no container: nothing modal
+}
+
+TEST_F(LabelObject, ABorderTheSurfaceCannotDrawIsAnInvalidPropertyValue)
+{
+    Put(d, L"BorderStyle", Long(1));
+    EXPECT_EQ(Put(d, L"BorderStyle", Long(2)), InvalidPropertyValue);
+    EXPECT_EQ(label.Core().BorderStyle(), 1);
+    // By dispatch id with room for the exception, as VB calls it.
+    VARIANT value = Long(-1);
+    DISPID named = DISPID_PROPERTYPUT;
+    DISPPARAMS params = { &value, &named, 1, 1 };
+    EXCEPINFO exception = {};
+    EXPECT_EQ(d->Invoke(0x68030009, IID_NULL, 0, DISPATCH_PROPERTYPUT, &params, nullptr, &exception, nullptr),
+        DISP_E_EXCEPTION);
+    EXPECT_EQ(exception.scode, InvalidPropertyValue);
+    SysFreeString(exception.bstrSource);
+    SysFreeString(exception.bstrDescription);
+    SysFreeString(exception.bstrHelpFile);
+}
+
+TEST_F(LabelObject, OtherEnumerationsStoreWhateverTheyAreGiven)
+{
+    EXPECT_EQ(Put(d, L"ArrowIcon", Long(9)), S_OK);
+    EXPECT_EQ(Put(d, L"Alignment", Long(-4)), S_OK);
+    EXPECT_EQ(label.Core().ArrowIcon(), 9);
+    EXPECT_EQ(label.Core().Alignment(), -4);
+}
+
+TEST_F(LabelObject, MenuNameMarksTheFormDirty)
+{
+    auto stream = label.As<IPersistStreamInit>(IID_IPersistStreamInit);
+    ASSERT_EQ(stream->InitNew(), S_OK);
+    EXPECT_EQ(stream->IsDirty(), S_FALSE);
+    Put(d, L"MenuName", Text(L"mnuFile"));
+    EXPECT_EQ(stream->IsDirty(), S_OK);
+}
+
+// The values of the enumeration that property id of the label's dispinterface is declared with.
+std::map<std::wstring, LONG> EnumOfProperty(DISPID id)
+{
+    ComPtr<ITypeInfo> dispatch = TypeLibrary::InfoOf(*TolvaLabelClass.dispatchIid);
+    std::map<std::wstring, LONG> values;
+    TYPEATTR* attributes = nullptr;
+    dispatch->GetTypeAttr(&attributes);
+    WORD count = attributes->cFuncs;
+    dispatch->ReleaseTypeAttr(attributes);
+    for (WORD i = 0; i < count; ++i) {
+        FUNCDESC* function = nullptr;
+        dispatch->GetFuncDesc(i, &function);
+        const bool found = function->memid == id && function->invkind == INVOKE_PROPERTYGET;
+        const TYPEDESC type = function->elemdescFunc.tdesc;
+        dispatch->ReleaseFuncDesc(function);
+        if (!found || type.vt != VT_USERDEFINED)
+            continue;
+        ComPtr<ITypeInfo> enumeration;
+        dispatch->GetRefTypeInfo(type.hreftype, enumeration.Put());
+        enumeration->GetTypeAttr(&attributes);
+        for (WORD v = 0; v < attributes->cVars; ++v) {
+            VARDESC* variable = nullptr;
+            enumeration->GetVarDesc(v, &variable);
+            Bstr name;
+            enumeration->GetDocumentation(variable->memid, name.Put(), nullptr, nullptr, nullptr);
+            values[name.Get()] = V_I4(variable->lpvarValue);
+            enumeration->ReleaseVarDesc(variable);
+        }
+        enumeration->ReleaseTypeAttr(attributes);
+    }
+    return values;
+}
+
+TEST(LabelTypeLibrary, EnumerationsMatchTheCoreConstantsEvenWhereNamesRepeat)
+{
+    using Values = std::map<std::wstring, LONG>;
+    EXPECT_EQ(EnumOfProperty(0x68030009),
+        (Values { { L"None", tkLabelBorderStyle::None }, { L"Inset", tkLabelBorderStyle::Inset } }));
+    EXPECT_EQ(EnumOfProperty(0x6803000F),
+        (Values { { L"tkAlignLeft", tkLabelAlignment::tkAlignLeft },
+            { L"tkAlignCenter", tkLabelAlignment::tkAlignCenter } }));
+    EXPECT_EQ(EnumOfProperty(0x68030004),
+        (Values { { L"tkArrowLeft", tkArrowIcon::tkArrowLeft }, { L"tkArrowRight", tkArrowIcon::tkArrowRight },
+            { L"tkArrowUp", tkArrowIcon::tkArrowUp }, { L"tkArrowDown", tkArrowIcon::tkArrowDown },
+            { L"tkPointerLeft", tkArrowIcon::tkPointerLeft }, { L"tkPointerRight", tkArrowIcon::tkPointerRight } }));
+    // tkLeft is 1 here and 0 in tkCommandAlignment: each enumeration keeps its own.
+    EXPECT_EQ(EnumOfProperty(0x68030003),
+        (Values { { L"tkNone", tkArrowPosition::tkNone }, { L"tkLeft", tkArrowPosition::tkLeft },
+            { L"tkRight", tkArrowPosition::tkRight }, { L"tkEnd", tkArrowPosition::tkEnd } }));
+}
+
+TEST(LabelTypeLibrary, EventsAreTheFiveMouseEventsWithArgumentsByReference)
+{
+    ComPtr<ITypeInfo> events = TypeLibrary::InfoOf(*TolvaLabelClass.eventIid);
+    TYPEATTR* attributes = nullptr;
+    events->GetTypeAttr(&attributes);
+    WORD count = attributes->cFuncs;
+    events->ReleaseTypeAttr(attributes);
+    std::map<DISPID, std::pair<std::wstring, std::vector<VARTYPE>>> declared;
+    for (WORD i = 0; i < count; ++i) {
+        FUNCDESC* function = nullptr;
+        events->GetFuncDesc(i, &function);
+        Bstr name;
+        events->GetDocumentation(function->memid, name.Put(), nullptr, nullptr, nullptr);
+        std::vector<VARTYPE> parameters;
+        for (SHORT p = 0; p < function->cParams; ++p) {
+            const TYPEDESC& t = function->lprgelemdescParam[p].tdesc;
+            parameters.push_back(t.vt == VT_PTR ? VARTYPE(VT_BYREF | t.lptdesc->vt) : t.vt);
+        }
+        declared[function->memid] = { name.Get(), parameters };
+        events->ReleaseFuncDesc(function);
+    }
+    const std::vector<VARTYPE> mouse = { ShortByRef, ShortByRef, SingleByRef, SingleByRef };
+    using Event = std::pair<std::wstring, std::vector<VARTYPE>>;
+    EXPECT_EQ(declared,
+        (std::map<DISPID, Event> { { Click, { L"Click", {} } }, { DblClick, { L"DblClick", {} } },
+            { MouseDown, { L"MouseDown", mouse } }, { MouseMove, { L"MouseMove", mouse } },
+            { MouseUp, { L"MouseUp", mouse } } }));
+}
+
+class LabelEvents : public LabelObject {
+protected:
+    void SetUp() override { ASSERT_NE(Advise(label.Unknown(), *TolvaLabelClass.eventIid, sink.Get()), 0u); }
+
+    ComPtr<EventSink> sink = ComPtr<EventSink>::Adopt(new EventSink(*TolvaLabelClass.eventIid));
+};
+
+TEST_F(LabelEvents, ALeftPressAndReleaseClickBetweenTheMouseEvents)
+{
+    label.Input().OnMouseMove(0, 0, 45, 30);
+    label.Input().OnMouseDown(1, 2, 45.5f, 30);
+    label.Input().OnMouseUp(1, 2, 45.5f, 30);
+    label.Input().OnDblClick();
+    EXPECT_EQ(sink->Ids(), (std::vector<DISPID> { MouseMove, MouseDown, Click, MouseUp, DblClick }));
+    EXPECT_EQ(sink->Events()[1].types, (std::vector<VARTYPE> { ShortByRef, ShortByRef, SingleByRef, SingleByRef }));
+    EXPECT_EQ(sink->Events()[1].values, (std::vector<double> { 1, 2, 45.5, 30 }));
+    EXPECT_TRUE(sink->Events()[2].types.empty());
+    EXPECT_TRUE(sink->Events()[4].types.empty());
+}
+
+TEST_F(LabelEvents, ARightButtonRaisesItsMouseEventsButNoClick)
+{
+    label.Input().OnMouseDown(2, 0, 10, 10);
+    EXPECT_FALSE(label.Core().Mouse().pushed);
+    label.Input().OnMouseUp(2, 0, 10, 10);
+    EXPECT_EQ(sink->Ids(), (std::vector<DISPID> { MouseDown, MouseUp }));
+    EXPECT_EQ(sink->Events()[1].values[0], 2);
+}
+
+TEST_F(LabelEvents, TheSinkMayCallBackIntoTheLabelOrReleaseItDuringClick)
+{
+    IDispatch* dispatch = d;
+    sink->OnEvent([dispatch](DISPID id, const std::vector<VARIANT*>&) {
+        if (id == Click)
+            Put(dispatch, L"Caption", Text(L"Visited"));
+    });
+    label.Input().OnMouseDown(1, 0, 15, 15);
+    label.Input().OnMouseUp(1, 0, 15, 15);
+    EXPECT_EQ(label.Core().Caption(), u"Visited");
+
+    auto other = std::make_unique<HostedObject<TolvaLabel>>(TolvaLabelClass);
+    auto second = ComPtr<EventSink>::Adopt(new EventSink(*TolvaLabelClass.eventIid));
+    ASSERT_NE(Advise(other->Unknown(), *TolvaLabelClass.eventIid, second.Get()), 0u);
+    const long objectsBefore = Module::ObjectCount();
+    {
+        // The window delivering the input holds the object while it does.
+        ComPtr<IUnknown> delivering(other->Unknown());
+        SurfaceListener& input = other->Input();
+        second->OnEvent([&other](DISPID id, const std::vector<VARIANT*>&) {
+            if (id == Click)
+                other.reset();
+        });
+        input.OnMouseDown(1, 0, 0, 0);
+        input.OnMouseUp(1, 0, 0, 0);
+    }
+    EXPECT_EQ(second->Ids(), (std::vector<DISPID> { MouseDown, Click, MouseUp }));
+    EXPECT_LT(Module::ObjectCount(), objectsBefore);
+}
+
+} // namespace
+} // namespace tolva::win32::test

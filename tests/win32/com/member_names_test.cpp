@@ -1,0 +1,63 @@
+// Every control object answers every name of its dispinterface with the type library's dispatch
+// id, and reads every property by that id: what a late-bound client does first.
+#include "platform/win32/com/bstr.h"
+#include "platform/win32/com/control_object.h"
+#include "platform/win32/com/type_library.h"
+#include "tests/win32/support/dispatch_helpers.h"
+#include <gtest/gtest.h>
+#include <map>
+
+namespace tolva::win32::test {
+namespace {
+
+// The property gets and methods of a dispinterface, by name.
+std::map<std::wstring, std::pair<MEMBERID, INVOKEKIND>> Readable(ITypeInfo* info)
+{
+    std::map<std::wstring, std::pair<MEMBERID, INVOKEKIND>> members;
+    TYPEATTR* attributes = nullptr;
+    info->GetTypeAttr(&attributes);
+    WORD count = attributes->cFuncs;
+    info->ReleaseTypeAttr(attributes);
+    for (WORD i = 0; i < count; ++i) {
+        FUNCDESC* function = nullptr;
+        info->GetFuncDesc(i, &function);
+        Bstr name;
+        info->GetDocumentation(function->memid, name.Put(), nullptr, nullptr, nullptr);
+        if (function->invkind == INVOKE_PROPERTYGET || function->invkind == INVOKE_FUNC)
+            members[name.Get()] = { function->memid, function->invkind };
+        info->ReleaseFuncDesc(function);
+    }
+    return members;
+}
+
+class MemberNames : public testing::TestWithParam<const ControlClass*> { };
+
+TEST_P(MemberNames, EveryDeclaredNameGivesItsIdAndEveryPropertyReads)
+{
+    const ControlClass& c = *GetParam();
+    ComPtr<IUnknown> object = ControlObject::Create(c);
+    auto dispatch = object.As<IDispatch>(IID_IDispatch);
+    ComPtr<ITypeInfo> info = TypeLibrary::InfoOf(*c.dispatchIid);
+    const auto members = Readable(info.Get());
+    ASSERT_FALSE(members.empty());
+    for (const auto& [name, declared] : members) {
+        SCOPED_TRACE(testing::Message() << ToUtf8(ViewOf(name.c_str())));
+        const auto [id, kind] = declared;
+        EXPECT_EQ(IdOf(dispatch.Get(), name.c_str()), id);
+        MEMBERID fromTypeInfo = DISPID_UNKNOWN;
+        LPOLESTR names[] = { const_cast<LPOLESTR>(name.c_str()) };
+        ASSERT_EQ(info->GetIDsOfNames(names, 1, &fromTypeInfo), S_OK);
+        EXPECT_EQ(fromTypeInfo, id);
+        if (kind == INVOKE_PROPERTYGET) {
+            OleVariant value;
+            EXPECT_EQ(Call(dispatch.Get(), id, DISPATCH_PROPERTYGET, {}, value), S_OK);
+            EXPECT_NE(V_VT(&value.Get()), VT_EMPTY);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllControls, MemberNames, testing::ValuesIn(ControlClasses().begin(), ControlClasses().end()),
+    [](const testing::TestParamInfo<const ControlClass*>& info) { return ToUtf8(ViewOf(info.param->name)); });
+
+} // namespace
+} // namespace tolva::win32::test
