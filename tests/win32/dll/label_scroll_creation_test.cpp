@@ -1,0 +1,112 @@
+// TolvaLabel and TolvaScroll from the registered DLL: their registry entries, creation by class id
+// and by either ProgID, and use without a container as a script's CreateObject leaves them. The
+// scroll bar's slider control stays private: it is neither registered nor creatable.
+#include "platform/win32/com/bstr.h"
+#include "platform/win32/com/com_ptr.h"
+#include "tests/win32/dll/tolva_kit_dll.h"
+#include "tests/win32/support/dispatch_helpers.h"
+#include "tests/win32/support/event_sink.h"
+#include <gtest/gtest.h>
+#include <ocidl.h>
+
+namespace tolva::win32::test {
+namespace {
+
+struct Published {
+    const wchar_t* name;
+    CLSID clsid;
+    IID dispatch;
+    IID events;
+};
+
+const Published Label
+    = { L"TolvaLabel", { 0x88B64AC9, 0x2A5A, 0x4E69, { 0xAD, 0x3E, 0x7B, 0xBA, 0x7E, 0xF3, 0x53, 0x59 } },
+          { 0x01334FB0, 0xDD2A, 0x48B3, { 0x82, 0x0C, 0x29, 0x82, 0xDC, 0x1C, 0xF8, 0x69 } },
+          { 0x6A158B5C, 0x7984, 0x4D84, { 0x90, 0xD9, 0xD0, 0x84, 0x90, 0x7F, 0x23, 0x90 } } };
+const Published Scroll
+    = { L"TolvaScroll", { 0x6FECD5E3, 0x6625, 0x4EC9, { 0xAD, 0x36, 0x70, 0x80, 0xFD, 0x6A, 0x23, 0x6B } },
+          { 0x849EEB14, 0x84BA, 0x4093, { 0x8C, 0x6E, 0xAE, 0xE8, 0xEE, 0xDE, 0x58, 0x98 } },
+          { 0xF18805C8, 0xD85C, 0x4F36, { 0x9A, 0x92, 0x7A, 0xDF, 0xB5, 0xCF, 0xC3, 0xF4 } } };
+
+class LabelAndScroll : public testing::TestWithParam<const Published*> { };
+
+TEST_P(LabelAndScroll, IsRegisteredAsAnInProcessControlWithBothProgIds)
+{
+    const Published& p = *GetParam();
+    const std::wstring progId = std::wstring(L"TolvaKit.") + p.name;
+    const std::wstring classKey = L"CLSID\\" + GuidText(p.clsid);
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\InprocServer32", L"ThreadingModel"), L"Apartment");
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\ProgID"), progId + L".1");
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\VersionIndependentProgID"), progId);
+    EXPECT_TRUE(RegistryKeyExists(HKEY_CLASSES_ROOT, classKey + L"\\Control"));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, progId + L"\\CurVer"), progId + L".1");
+    for (const IID* iid : { &p.dispatch, &p.events })
+        EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(*iid) + L"\\TypeLib"),
+            GuidText(TolvaKitLibraryId));
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(p.events)), std::wstring(L"__") + p.name);
+
+    for (const std::wstring& name : { progId, progId + L".1" }) {
+        CLSID clsid = {};
+        ASSERT_EQ(CLSIDFromProgID(name.c_str(), &clsid), S_OK) << ToUtf8(ViewOf(name.c_str()));
+        EXPECT_EQ(clsid, p.clsid);
+    }
+}
+
+TEST_P(LabelAndScroll, IsCreatedByClassIdAndProgIdWithItsClassInformation)
+{
+    const Published& p = *GetParam();
+    ComPtr<IUnknown> byClass;
+    ASSERT_EQ(CoCreateInstance(p.clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, byClass.PutVoid()), S_OK);
+    CLSID clsid = {};
+    ASSERT_EQ(CLSIDFromProgID((std::wstring(L"TolvaKit.") + p.name).c_str(), &clsid), S_OK);
+    ComPtr<IDispatch> byProgId;
+    ASSERT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, byProgId.PutVoid()), S_OK);
+
+    auto classInfo = byProgId.As<IProvideClassInfo2>(IID_IProvideClassInfo2);
+    ASSERT_TRUE(classInfo);
+    GUID events = {};
+    ASSERT_EQ(classInfo->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
+    EXPECT_EQ(events, p.events);
+    ComPtr<ITypeInfo> info;
+    ASSERT_EQ(byProgId->GetTypeInfo(0, 0, info.Put()), S_OK);
+    TYPEATTR* attributes = nullptr;
+    info->GetTypeAttr(&attributes);
+    EXPECT_EQ(attributes->guid, p.dispatch);
+    info->ReleaseTypeAttr(attributes);
+}
+
+INSTANTIATE_TEST_SUITE_P(Classes, LabelAndScroll, testing::Values(&Label, &Scroll),
+    [](const testing::TestParamInfo<const Published*>& info) { return ToUtf8(ViewOf(info.param->name)); });
+
+TEST(PrivateSlider, IsNeitherRegisteredNorCreatable)
+{
+    CLSID clsid = {};
+    EXPECT_NE(CLSIDFromProgID(L"TolvaKit.ctlScrollBox", &clsid), S_OK);
+    EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, L"TolvaKit.ctlScrollBox"));
+}
+
+TEST(WindowlessScroll, WorksWithoutAContainerAndRaisesChange)
+{
+    ComPtr<IDispatch> scroll;
+    ASSERT_EQ(CoCreateInstance(Scroll.clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, scroll.PutVoid()), S_OK);
+    auto sink = ComPtr<EventSink>::Adopt(new EventSink(Scroll.events));
+    ASSERT_NE(Advise(scroll.Get(), Scroll.events, sink.Get()), 0u);
+    EXPECT_EQ(Put(scroll.Get(), L"Max", Long(10)), S_OK);
+    EXPECT_EQ(Put(scroll.Get(), L"Value", Long(7)), S_OK);
+    EXPECT_EQ(Put(scroll.Get(), L"Value", Long(11)), S_OK); // refused silently
+    OleVariant value;
+    ASSERT_EQ(Get(scroll.Get(), L"Value", value), S_OK);
+    EXPECT_EQ(AsLong(value), 7);
+    EXPECT_EQ(sink->Ids(), std::vector<DISPID> { 6 });
+
+    ComPtr<IDispatch> label;
+    ASSERT_EQ(CoCreateInstance(Label.clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, label.PutVoid()), S_OK);
+    EXPECT_EQ(Put(label.Get(), L"Caption", Text(L"Balance")), S_OK);
+    OleVariant caption;
+    ASSERT_EQ(Get(label.Get(), L"Caption", caption), S_OK);
+    EXPECT_EQ(AsText(caption), L"Balance");
+}
+
+} // namespace
+} // namespace tolva::win32::test
