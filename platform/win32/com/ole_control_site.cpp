@@ -140,6 +140,9 @@ HWND OleControlSite::OwnerWindow() const
     HWND window = nullptr;
     if (auto oleWindow = m_clientSite.As<IOleWindow>(IID_IOleWindow))
         oleWindow->GetWindow(&window);
+    // Wine's ATL site answers IOleWindow only as the in-place site it derives from.
+    else if (auto inPlaceSite = m_clientSite.As<IOleInPlaceSite>(IID_IOleInPlaceSite))
+        inPlaceSite->GetWindow(&window);
     return window;
 }
 
