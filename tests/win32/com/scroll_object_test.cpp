@@ -1,6 +1,6 @@
 // TolvaScroll through IDispatch and its connection point, without a container: what a script's
 // CreateObject or an embedding list gets. Refused values are silent here (no window could own a
-// message box); the boxes themselves are tested in a container (tests/win32/container).
+// message box); the boxes themselves are tested in a container (tests/gui).
 #include "controls/scroll/tolva_scroll.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/type_library.h"
