@@ -72,6 +72,15 @@ fi
 build mingw64
 build mingw32
 
+# The GUI suite compares what GDI draws with the headless platform's pictures of the same
+# scenes: tolva_render's, from the native build scripts/test.sh made, else from a release build.
+native=release
+[ -d build/debug ] && native=debug
+cmake --preset "$native" >/dev/null
+cmake --build --preset "$native" --target tolva_render -- -j2 >/dev/null
+"build/$native/tools/tolva_render" "$root/build/headless-pictures" >/dev/null
+export TOLVA_HEADLESS_PICTURES="$(windows_path "$root/build/headless-pictures")"
+
 needs_display=$(ctest --test-dir build/mingw64 -N -L gui 2>/dev/null | grep -c 'Test *#' || true)
 if [ "$needs_display" -gt 0 ] && [ -z "${DISPLAY:-}" ]; then
     TOLVA_WINE_DESKTOP=1 exec xvfb-run -a -s "-screen 0 1024x768x24" "$0" --run-only

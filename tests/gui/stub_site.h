@@ -39,7 +39,7 @@ public:
     Font AmbientFont() override { return {}; }
     bool UserMode() override { return true; }
     bool DisplayAsDefault() override { return displayAsDefault; }
-    String ExtenderName() override { return u"Command1"; }
+    String ExtenderName() override { return extenderName; }
     float ExtenderWidth() override { return extenderWidth; }
     float ExtenderHeight() override { return extenderHeight; }
     ParentForm* Parent() override { return parent; }
@@ -48,6 +48,7 @@ public:
     void ShowAboutBox() override { }
 
     bool displayAsDefault = false;
+    String extenderName = u"Command1";
     float extenderWidth = 0;
     float extenderHeight = 0;
     StubParentForm* parent = nullptr;
