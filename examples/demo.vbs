@@ -25,3 +25,22 @@ End Sub
 Sub mnuFileSave_Click()
     WScript.Echo "Save chosen from the " & cmdFile.Caption & " menu"
 End Sub
+
+' The scroll bar's value, shown by a label: Change for every assignment (arrows, track, code),
+' Scroll while the slider is dragged.
+Sub sbAmount_Change()
+    lblValue.Caption = "Value: " & sbAmount.Value
+End Sub
+
+Sub sbAmount_Scroll()
+    lblValue.Caption = "Dragging: " & sbAmount.Value
+End Sub
+
+Sub lblDetails_Click()
+    WScript.Echo "Details of value " & sbAmount.Value
+End Sub
+
+' An assignment from code raises Change too, which updates the label.
+Sub lblFirst_Click()
+    sbAmount.Value = sbAmount.Min
+End Sub
