@@ -38,6 +38,8 @@ run_tests() {
     if [ -n "${TOLVA_WINE_DESKTOP:-}" ]; then
         "$loader" reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null
         "$loader" reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1024x768 /f >/dev/null
+        # reg itself started the desktop without those keys: a new server starts it with them.
+        "$wineserver" -k
     fi
     "$wineserver" -p
     local status=0
