@@ -30,6 +30,7 @@ public:
     ~HostedForm();
 
     host::HostForm& Form() { return *m_form; }
+    host::EventLog& EventLog() { return m_log.Log(); }
     host::FormControl& Control(StringView name);
     HWND Window(StringView control) { return Control(control).Window(); }
     // The log lines written so far, and those written since the last call to Take.
