@@ -127,6 +127,9 @@ TEST_F(InPlaceInterfaces, OleObjectAnswersStatusExtentAndVerbs)
     HWND window = hosted.Window(u"cmdOK");
     ASSERT_EQ(object->DoVerb(OLEIVERB_HIDE, nullptr, nullptr, 0, nullptr, nullptr), S_OK);
     EXPECT_FALSE(IsWindowVisible(window));
+    ASSERT_EQ(object->DoVerb(OLEIVERB_SHOW, nullptr, nullptr, 0, nullptr, nullptr), S_OK);
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_EQ(GetFocus(), window); // shown and UI-active
     ASSERT_EQ(object->Close(OLECLOSE_NOSAVE), S_OK);
     EXPECT_FALSE(IsWindow(window));
     EXPECT_EQ(hosted.Control(u"cmdOK").Window(), nullptr);

@@ -87,8 +87,13 @@ HRESULT OleObjectPart::DoVerb(LONG verb, LPMSG, IOleClientSite* site, LONG, HWND
         switch (verb) {
         case OLEIVERB_PRIMARY:
         case OLEIVERB_SHOW:
-        case OLEIVERB_UIACTIVATE:
-            return inPlace->Activate(site, position, true);
+        case OLEIVERB_UIACTIVATE: {
+            const HRESULT activated = inPlace->Activate(site, position, true);
+            // Shown again after a HIDE verb.
+            if (HWND window = inPlace->Surface().Window(); window && inPlace->Surface().Visible())
+                ShowWindow(window, SW_SHOWNA);
+            return activated;
+        }
         case OLEIVERB_INPLACEACTIVATE:
             return inPlace->Activate(site, position, false);
         case OLEIVERB_HIDE:
