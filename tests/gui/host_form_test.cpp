@@ -217,6 +217,23 @@ TEST_F(HostFormTest, TheExtenderPassesOtherNamesToTheControl)
     EXPECT_EQ(rect.right, 200);
 }
 
+TEST_F(HostFormTest, AboutBoxShowsTheLibrarysDialogOwnedByTheForm)
+{
+    HWND owner = nullptr;
+    test::ModalDriver driver([&] {
+        HWND dialog = FindWindowW(L"#32770", L"About TolvaKit");
+        if (!dialog)
+            return false;
+        owner = GetWindow(dialog, GW_OWNER);
+        PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+        return true;
+    });
+    OleVariant result;
+    ASSERT_EQ(test::Call(hosted.Control(u"cmdOK").Extender(), -552 /* AboutBox */, DISPATCH_METHOD, {}, result), S_OK);
+    EXPECT_TRUE(driver.Done());
+    EXPECT_EQ(owner, hosted.Form().Window());
+}
+
 TEST_F(HostFormTest, KeepsGdiObjectsFlatOverAThousandHoverRepaints)
 {
     Send(u"cmdOK", WM_MOUSEMOVE, 0, 50, 10);
