@@ -95,20 +95,21 @@ std::wstring TextOf(HWND window)
     return text;
 }
 
+BOOL CALLBACK RememberShownDialog(HWND window, LPARAM found)
+{
+    wchar_t className[16] = {};
+    GetClassNameW(window, className, 16);
+    if (std::wstring(className) != L"#32770" || !IsWindowVisible(window))
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+// The message box of the test's thread, if one is shown.
 HWND DialogOfThisThread()
 {
     HWND found = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM found) {
-            wchar_t className[16] = {};
-            GetClassNameW(window, className, 16);
-            if (std::wstring(className) != L"#32770" || !IsWindowVisible(window))
-                return TRUE;
-            *reinterpret_cast<HWND*>(found) = window;
-            return FALSE;
-        },
-        LPARAM(&found));
+    EnumThreadWindows(GetCurrentThreadId(), &RememberShownDialog, LPARAM(&found));
     return found;
 }
 
