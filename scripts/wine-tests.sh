@@ -41,7 +41,7 @@ run_tests() {
         # reg itself started the desktop without those keys: a new server starts it with them.
         "$wineserver" -k
     fi
-    "$wineserver" -p
+    "$wineserver" -p >/dev/null 2>&1 </dev/null
     local status=0
     if ! "$loader" regsvr32 /s "$(windows_path "$dir/bin/TolvaKit.dll")"; then
         echo "$preset: regsvr32 could not register TolvaKit.dll" >&2

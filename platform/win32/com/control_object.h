@@ -38,6 +38,7 @@ public:
     ConnectionPoint& PropertyNotifications() { return m_notifications; }
     LiveFont& FontObject() { return m_font; }
 
+    // Another interface part of this object, for parts that work together.
     template <class Part> Part* FindPart()
     {
         for (auto& part : m_parts)

@@ -20,7 +20,7 @@ public:
     virtual void ReadProperties(PropertyBag& bag) = 0;
     virtual void WriteProperties(PropertyBag& bag) = 0;
 
-    virtual bool HasFont() const = 0;
+    // The control's font; a control without one has the default font and ignores SetFont.
     virtual Font GetFont() const = 0;
     virtual void SetFont(const Font& font) = 0;
 
@@ -52,7 +52,6 @@ public:
     void ReadProperties(PropertyBag& bag) override { m_control.ReadProperties(bag); }
     void WriteProperties(PropertyBag& bag) override { m_control.WriteProperties(bag); }
 
-    bool HasFont() const override { return ControlWithFont<Control>; }
     Font GetFont() const override
     {
         if constexpr (ControlWithFont<Control>)
