@@ -63,11 +63,16 @@ TEST_F(ScriptHostTest, ProceduresCanBeCalledFromTheHost)
     EXPECT_FALSE(host->Call(L"Missing", {}));
 }
 
+int ticks = 0;
+void CALLBACK CountTick(HWND, UINT, UINT_PTR, DWORD)
+{
+    ++ticks;
+}
+
 TEST_F(ScriptHostTest, SleepLetsTimersRun)
 {
-    static int ticks = 0;
     ticks = 0;
-    UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) { ++ticks; });
+    UINT_PTR timer = SetTimer(nullptr, 0, 10, &CountTick);
     auto host = Host(ScriptHost::Language::VBScript);
     ASSERT_TRUE(host->Run(L"WScript.Sleep 100"));
     KillTimer(nullptr, timer);
