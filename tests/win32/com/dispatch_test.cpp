@@ -180,6 +180,9 @@ TEST_F(CommandDispatch, WrongArgumentCountsAreRefused)
     DISPPARAMS wrongName = { &value, &other, 1, 1 };
     EXPECT_EQ(d->Invoke(IdOf(d, L"Style"), IID_NULL, 0, DISPATCH_PROPERTYPUT, &wrongName, nullptr, nullptr, nullptr),
         DISP_E_NONAMEDARGS);
+    // A client that does not name the value still passes it first.
+    EXPECT_EQ(Call(d, IdOf(d, L"Style"), DISPATCH_PROPERTYPUT, { Long(1) }, result), S_OK);
+    EXPECT_EQ(command.Control().Style(), 1);
 }
 
 TEST_F(CommandDispatch, PropertyCalledAsMethodIsRead)

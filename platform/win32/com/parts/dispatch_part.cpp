@@ -138,9 +138,11 @@ HRESULT DispatchPart::Assign(const DispatchMember& member, WORD flags, const DIS
 {
     if (member.isMethod)
         return DISP_E_MEMBERNOTFOUND;
-    if (params.cNamedArgs == 0 || params.cArgs == 0)
+    if (params.cArgs == 0)
         return DISP_E_PARAMNOTOPTIONAL;
-    if (params.cNamedArgs > 1 || params.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT)
+    // The value is the named argument DISPID_PROPERTYPUT; clients that do not name it still
+    // pass it first, and are served too.
+    if (params.cNamedArgs > 1 || (params.cNamedArgs == 1 && params.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT))
         return DISP_E_NONAMEDARGS;
     DispatchArguments arguments(params, true);
     // An object goes to the by-reference setter (also when assigned without Set), anything
