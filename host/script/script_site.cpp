@@ -45,7 +45,14 @@ HRESULT ScriptSite::GetItemInfo(LPCOLESTR name, DWORD mask, IUnknown** item, ITy
         *item = nullptr;
     if (info)
         *info = nullptr;
-    IUnknown* object = m_host.NamedObject(name);
+    if (!name)
+        return E_INVALIDARG;
+    IUnknown* object = nullptr;
+    try {
+        object = m_host.NamedObject(name);
+    } catch (...) {
+        return E_OUTOFMEMORY;
+    }
     if (!object)
         return TYPE_E_ELEMENTNOTFOUND;
     if ((mask & SCRIPTINFO_IUNKNOWN) && item) {
@@ -67,9 +74,21 @@ HRESULT ScriptSite::GetDocVersionString(BSTR*)
 
 HRESULT ScriptSite::OnScriptError(IActiveScriptError* error)
 {
+    if (!error)
+        return E_POINTER;
+    try {
+        Report(*error);
+    } catch (...) {
+        // Nothing may go back into the engine; the error is lost only when memory is.
+    }
+    return S_OK;
+}
+
+void ScriptSite::Report(IActiveScriptError& error)
+{
     ScriptError reported;
     EXCEPINFO info = {};
-    if (SUCCEEDED(error->GetExceptionInfo(&info))) {
+    if (SUCCEEDED(error.GetExceptionInfo(&info))) {
         if (info.pfnDeferredFillIn)
             info.pfnDeferredFillIn(&info);
         reported.code = info.scode ? info.scode : long(0x800A0000u + info.wCode);
@@ -93,15 +112,14 @@ HRESULT ScriptSite::OnScriptError(IActiveScriptError* error)
     DWORD context = 0;
     ULONG line = 0;
     LONG column = 0;
-    if (SUCCEEDED(error->GetSourcePosition(&context, &line, &column))) {
+    if (SUCCEEDED(error.GetSourcePosition(&context, &line, &column))) {
         reported.line = line + 1;
         reported.column = column + 1;
     }
     Bstr text;
-    if (SUCCEEDED(error->GetSourceLineText(text.Put())) && text.Get())
+    if (SUCCEEDED(error.GetSourceLineText(text.Put())) && text.Get())
         reported.lineText = text.Get();
     m_host.ReportError(std::move(reported));
-    return S_OK;
 }
 
 HRESULT ScriptSite::QueryService(REFGUID, REFIID, void** out)

@@ -33,6 +33,7 @@ public:
 
 private:
     ~ScriptSite() = default;
+    void Report(IActiveScriptError& error);
 
     ScriptHost& m_host;
     LONG m_references = 0;

@@ -56,15 +56,14 @@ void CALLBACK ThreadTimer::OnTimer(HWND, UINT, UINT_PTR id, DWORD)
     if (found == Running().end())
         return;
     ThreadTimer& timer = *found->second;
-    // Copied: the handler may disable or destroy the timer.
-    std::function<void()> handler = timer.m_handler;
-    if (!handler)
-        return;
     IUnknown* owner = timer.m_owner;
     if (owner)
         owner->AddRef();
     try {
-        handler();
+        // Copied: the handler may disable or destroy the timer.
+        std::function<void()> handler = timer.m_handler;
+        if (handler)
+            handler();
     } catch (...) {
         // A tick is a host event: nothing may escape into the message loop.
     }

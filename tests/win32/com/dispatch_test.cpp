@@ -57,12 +57,20 @@ TEST_F(CommandDispatch, EveryPropertyRoundTripsByName)
     EXPECT_EQ(c.ForeColorDisabled(), 0x556677u);
     EXPECT_FALSE(c.Enabled());
 
-    Get(d, L"Caption", result);
+    // Read back by dispatch id, as early-bound VB code does.
+    const std::pair<DISPID, LONG> numbers[]
+        = { { 0x68030000, 1 }, { 0x6803000B, 1 }, { 0x68030009, 0x112233 }, { 0x6803000A, 0x223344 },
+              { 0x68030002, 0x334455 }, { 0x68030007, 0x445566 }, { 0x68030008, 0x556677 }, { 0x68030006, 0 } };
+    for (auto [id, expected] : numbers) {
+        ASSERT_EQ(Call(d, id, DISPATCH_PROPERTYGET, {}, result), S_OK) << id;
+        EXPECT_EQ(AsLong(result), expected) << id;
+    }
+    Call(d, 0x68030001, DISPATCH_PROPERTYGET, {}, result);
     EXPECT_EQ(AsText(result), L"&Save");
-    Get(d, L"ForeColorDisabled", result);
-    EXPECT_EQ(AsLong(result), 0x556677);
-    Get(d, L"Enabled", result);
-    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_FALSE);
+    Call(d, 0x68030003, DISPATCH_PROPERTYGET, {}, result);
+    EXPECT_EQ(AsText(result), L"mnuFile");
+    Call(d, 0x68030006, DISPATCH_PROPERTYGET, {}, result);
+    EXPECT_EQ(V_VT(&result.Get()), VT_BOOL);
 }
 
 TEST_F(CommandDispatch, DispatchIdsAreThePublishedOnes)
