@@ -125,7 +125,7 @@ private:
 
 ComPtr<EventConnection> EventConnection::Connect(ScriptHost& host, IUnknown* source, std::wstring prefix)
 {
-    ComPtr<EventConnection> connection(new EventConnection(host, std::move(prefix)));
+    auto connection = ComPtr<EventConnection>::Adopt(new EventConnection(host, std::move(prefix)));
     connection->m_events = DefaultSourceInterface(source);
     TYPEATTR* attributes = nullptr;
     ThrowIfFailed(connection->m_events->GetTypeAttr(&attributes));
@@ -149,30 +149,9 @@ void EventConnection::Disconnect()
     m_point.Reset();
 }
 
-HRESULT EventConnection::QueryInterface(REFIID iid, void** out)
+void* EventConnection::Find(REFIID iid)
 {
-    if (!out)
-        return E_POINTER;
-    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != m_iid) {
-        *out = nullptr;
-        return E_NOINTERFACE;
-    }
-    *out = static_cast<IDispatch*>(this);
-    AddRef();
-    return S_OK;
-}
-
-ULONG EventConnection::AddRef()
-{
-    return ULONG(InterlockedIncrement(&m_references));
-}
-
-ULONG EventConnection::Release()
-{
-    LONG left = InterlockedDecrement(&m_references);
-    if (left == 0)
-        delete this;
-    return ULONG(left);
+    return iid == IID_IDispatch || iid == m_iid ? static_cast<IDispatch*>(this) : nullptr;
 }
 
 HRESULT EventConnection::GetTypeInfoCount(UINT* count)

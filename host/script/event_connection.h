@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/com_ptr.h"
 #include <oaidl.h>
 #include <ocidl.h>
@@ -12,16 +13,12 @@ class ScriptHost;
 // engines take by-reference arguments only as variants (Wine's VBScript copies typed ones,
 // its JScript fails on them), so a typed by-reference argument is handed over as a reference
 // to a variant holding its value, and what the procedure left there is written back.
-class EventConnection final : public IDispatch {
+class EventConnection final : public ComObject<IDispatch> {
 public:
     // Advises a new connection on source's default event interface; throws ComError.
     static ComPtr<EventConnection> Connect(ScriptHost& host, IUnknown* source, std::wstring prefix);
 
     void Disconnect();
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
@@ -34,9 +31,9 @@ private:
         : m_host(host)
         , m_prefix(std::move(prefix))
     { }
-    ~EventConnection() = default;
 
     std::wstring EventName(DISPID id) const;
+    void* Find(REFIID iid) override;
 
     ScriptHost& m_host;
     std::wstring m_prefix;
@@ -45,7 +42,6 @@ private:
     ComPtr<IConnectionPoint> m_point;
     DWORD m_cookie = 0;
     bool m_connected = false;
-    LONG m_references = 0;
 };
 
 } // namespace tolva::win32

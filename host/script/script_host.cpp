@@ -37,8 +37,8 @@ ScriptHost::ScriptHost(Language language, Output echo)
     ThrowIfFailed(CLSIDFromProgID(language == Language::VBScript ? L"VBScript" : L"JScript", &engine));
     ThrowIfFailed(CoCreateInstance(engine, nullptr, CLSCTX_INPROC_SERVER, IID_IActiveScript, m_engine.PutVoid()));
     ThrowIfFailed(m_engine->QueryInterface(ParseIid, m_parser.PutVoid()));
-    m_site = ComPtr<ScriptSite>(new ScriptSite(*this));
-    m_wscript = ComPtr<IDispatch>(new WScriptObject(*this));
+    m_site = ComPtr<ScriptSite>::Adopt(new ScriptSite(*this));
+    m_wscript = ComPtr<IDispatch>::Adopt(new WScriptObject(*this));
     m_objects[L"WScript"] = ComPtr<IUnknown>(m_wscript.Get());
     ThrowIfFailed(m_engine->SetScriptSite(m_site.Get()));
     ThrowIfFailed(m_parser->InitNew());

@@ -5,33 +5,13 @@
 
 namespace tolva::win32 {
 
-HRESULT ScriptSite::QueryInterface(REFIID iid, void** out)
+void* ScriptSite::Find(REFIID iid)
 {
-    if (!out)
-        return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IActiveScriptSite)
-        *out = static_cast<IActiveScriptSite*>(this);
-    else if (iid == IID_IServiceProvider)
-        *out = static_cast<IServiceProvider*>(this);
-    else {
-        *out = nullptr;
-        return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-}
-
-ULONG ScriptSite::AddRef()
-{
-    return ULONG(InterlockedIncrement(&m_references));
-}
-
-ULONG ScriptSite::Release()
-{
-    LONG left = InterlockedDecrement(&m_references);
-    if (left == 0)
-        delete this;
-    return ULONG(left);
+    if (iid == IID_IActiveScriptSite)
+        return static_cast<IActiveScriptSite*>(this);
+    if (iid == IID_IServiceProvider)
+        return static_cast<IServiceProvider*>(this);
+    return nullptr;
 }
 
 HRESULT ScriptSite::GetLCID(LCID*)

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/win32/windows_api.h"
+#include "platform/win32/com/com_object.h"
 #include <activscp.h>
 #include <servprov.h>
 
@@ -10,15 +10,11 @@ class ScriptHost;
 // The engine's view of the host: named objects, error reports. It answers IServiceProvider
 // (with no services) because Wine's engines refuse CreateObject for objects with
 // IObjectWithSite when the site has none.
-class ScriptSite final : public IActiveScriptSite, public IServiceProvider {
+class ScriptSite final : public ComObject<IActiveScriptSite, IServiceProvider> {
 public:
     explicit ScriptSite(ScriptHost& host)
         : m_host(host)
     { }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE GetLCID(LCID* lcid) override;
     HRESULT STDMETHODCALLTYPE GetItemInfo(LPCOLESTR name, DWORD mask, IUnknown** item, ITypeInfo** info) override;
@@ -31,12 +27,13 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryService(REFGUID service, REFIID iid, void** out) override;
 
+protected:
+    void* Find(REFIID iid) override;
+
 private:
-    ~ScriptSite() = default;
     void Report(IActiveScriptError& error);
 
     ScriptHost& m_host;
-    LONG m_references = 0;
 };
 
 } // namespace tolva::win32

@@ -44,30 +44,9 @@ ComPtr<IUnknown> ObjectIn(const VARIANT& value)
 
 } // namespace
 
-HRESULT WScriptObject::QueryInterface(REFIID iid, void** out)
+void* WScriptObject::Find(REFIID iid)
 {
-    if (!out)
-        return E_POINTER;
-    if (iid != IID_IUnknown && iid != IID_IDispatch) {
-        *out = nullptr;
-        return E_NOINTERFACE;
-    }
-    *out = static_cast<IDispatch*>(this);
-    AddRef();
-    return S_OK;
-}
-
-ULONG WScriptObject::AddRef()
-{
-    return ULONG(InterlockedIncrement(&m_references));
-}
-
-ULONG WScriptObject::Release()
-{
-    LONG left = InterlockedDecrement(&m_references);
-    if (left == 0)
-        delete this;
-    return ULONG(left);
+    return iid == IID_IDispatch ? static_cast<IDispatch*>(this) : nullptr;
 }
 
 HRESULT WScriptObject::GetTypeInfoCount(UINT* count)

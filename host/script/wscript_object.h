@@ -1,24 +1,19 @@
 #pragma once
-#include "platform/win32/windows_api.h"
+#include "platform/win32/com/com_object.h"
 #include <oaidl.h>
 #include <vector>
 
 namespace tolva::win32 {
 
-class OleVariant;
 class ScriptHost;
 
 // The script's WScript object: Echo(values...), CreateObject(progId [, prefix]),
 // ConnectObject(object, prefix), Sleep(milliseconds), Quit([exitCode]).
-class WScriptObject final : public IDispatch {
+class WScriptObject final : public ComObject<IDispatch> {
 public:
     explicit WScriptObject(ScriptHost& host)
         : m_host(host)
     { }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
@@ -26,9 +21,10 @@ public:
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
         EXCEPINFO* exception, UINT* argumentError) override;
 
-private:
-    ~WScriptObject() = default;
+protected:
+    void* Find(REFIID iid) override;
 
+private:
     HRESULT Echo(const std::vector<VARIANT>& arguments);
     HRESULT CreateObject(const std::vector<VARIANT>& arguments, VARIANT* result);
     HRESULT ConnectObject(const std::vector<VARIANT>& arguments);
@@ -36,7 +32,6 @@ private:
     HRESULT Quit(const std::vector<VARIANT>& arguments);
 
     ScriptHost& m_host;
-    LONG m_references = 0;
 };
 
 } // namespace tolva::win32

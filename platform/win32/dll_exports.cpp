@@ -26,7 +26,7 @@ extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, 
     if (!controlClass)
         return CLASS_E_CLASSNOTAVAILABLE;
     return Guarded(IID_IClassFactory, [&] {
-        ComPtr<IClassFactory> factory(new ClassFactory(*controlClass));
+        auto factory = ComPtr<ClassFactory>::Adopt(new ClassFactory(*controlClass));
         return factory->QueryInterface(iid, out);
     });
 }

@@ -4,30 +4,9 @@
 
 namespace tolva::win32 {
 
-HRESULT ClassFactory::QueryInterface(REFIID iid, void** out)
+void* ClassFactory::Find(REFIID iid)
 {
-    if (!out)
-        return E_POINTER;
-    if (iid == IID_IUnknown || iid == IID_IClassFactory) {
-        *out = static_cast<IClassFactory*>(this);
-        AddRef();
-        return S_OK;
-    }
-    *out = nullptr;
-    return E_NOINTERFACE;
-}
-
-ULONG ClassFactory::AddRef()
-{
-    return ULONG(InterlockedIncrement(&m_references));
-}
-
-ULONG ClassFactory::Release()
-{
-    LONG left = InterlockedDecrement(&m_references);
-    if (left == 0)
-        delete this;
-    return ULONG(left);
+    return iid == IID_IClassFactory ? static_cast<IClassFactory*>(this) : nullptr;
 }
 
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** out)

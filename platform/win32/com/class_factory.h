@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/com/module.h"
 #include <unknwn.h>
@@ -6,24 +7,20 @@
 namespace tolva::win32 {
 
 // Creates the COM objects of one control class. Counts as a live object while a client holds it.
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public ComObject<IClassFactory> {
 public:
     explicit ClassFactory(const ControlClass& controlClass)
         : m_class(controlClass)
     { }
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
-
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override;
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override;
 
-private:
-    ~ClassFactory() = default;
+protected:
+    void* Find(REFIID iid) override;
 
+private:
     ModuleReference m_module;
-    LONG m_references = 0;
     const ControlClass& m_class;
 };
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/module.h"
 #include "platform/win32/windows_api.h"
 #include <ocidl.h>
@@ -26,34 +27,13 @@ inline void ReleaseItemReference(IConnectionPoint* item)
 }
 
 // A standard enumerator (IEnumConnections, IEnumConnectionPoints) over a snapshot of items.
-template <class Interface, class Item, const IID& Iid> class Enumerator final : public Interface {
+template <class Interface, class Item, const IID& Iid> class Enumerator final : public ComObject<Interface> {
 public:
     explicit Enumerator(std::vector<Item> items)
         : m_items(std::move(items))
     {
         for (Item& item : m_items)
             AddItemReference(item);
-    }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override
-    {
-        if (!out)
-            return E_POINTER;
-        if (iid != IID_IUnknown && iid != Iid) {
-            *out = nullptr;
-            return E_NOINTERFACE;
-        }
-        *out = static_cast<Interface*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ULONG(InterlockedIncrement(&m_references)); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        LONG left = InterlockedDecrement(&m_references);
-        if (left == 0)
-            delete this;
-        return ULONG(left);
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG count, Item* items, ULONG* fetched) override
@@ -95,15 +75,17 @@ public:
         }
     }
 
+protected:
+    void* Find(REFIID iid) override { return iid == Iid ? static_cast<Interface*>(this) : nullptr; }
+
 private:
-    ~Enumerator()
+    ~Enumerator() override
     {
         for (Item& item : m_items)
             ReleaseItemReference(item);
     }
 
     ModuleReference m_module;
-    LONG m_references = 1;
     std::vector<Item> m_items;
     size_t m_position = 0;
 };

@@ -1,4 +1,5 @@
 #include "platform/win32/com/live_font.h"
+#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/error_reporting.h"
 #include "platform/win32/com/font_conversion.h"
 #include "platform/win32/com/module.h"
@@ -7,33 +8,12 @@ namespace tolva::win32 {
 
 // The font's notification sink. It has its own reference count: the font holds it, and it must
 // not keep the control alive; the LiveFont cuts it loose before letting go of the font.
-class LiveFont::Sink final : public IPropertyNotifySink {
+class LiveFont::Sink final : public ComObject<IPropertyNotifySink> {
 public:
     explicit Sink(LiveFont* owner)
         : m_owner(owner)
     { }
     void Detach() { m_owner = nullptr; }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override
-    {
-        if (!out)
-            return E_POINTER;
-        if (iid == IID_IUnknown || iid == IID_IPropertyNotifySink) {
-            *out = static_cast<IPropertyNotifySink*>(this);
-            AddRef();
-            return S_OK;
-        }
-        *out = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ULONG(InterlockedIncrement(&m_references)); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        LONG left = InterlockedDecrement(&m_references);
-        if (left == 0)
-            delete this;
-        return ULONG(left);
-    }
 
     HRESULT STDMETHODCALLTYPE OnChanged(DISPID) override
     {
@@ -45,9 +25,14 @@ public:
     }
     HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
 
+protected:
+    void* Find(REFIID iid) override
+    {
+        return iid == IID_IPropertyNotifySink ? static_cast<IPropertyNotifySink*>(this) : nullptr;
+    }
+
 private:
     ModuleReference m_module;
-    LONG m_references = 0;
     LiveFont* m_owner;
 };
 
@@ -85,7 +70,7 @@ void LiveFont::Watch(ComPtr<IFont> font)
     auto container = m_font.As<IConnectionPointContainer>(IID_IConnectionPointContainer);
     if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, m_point.Put())))
         return; // a font that cannot notify is still a font; its later changes go unseen
-    m_sink = ComPtr<Sink>(new Sink(this));
+    m_sink = ComPtr<Sink>::Adopt(new Sink(this));
     if (FAILED(m_point->Advise(m_sink.Get(), &m_cookie))) {
         m_sink->Detach();
         m_sink.Reset();

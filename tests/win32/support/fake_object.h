@@ -1,46 +1,9 @@
 #pragma once
-#include "platform/win32/windows_api.h"
-#include <objbase.h>
-#include <tuple>
+#include "platform/win32/com/com_object.h"
 
 namespace tolva::win32::test {
 
-// The COM plumbing of the test doubles: a reference count from 1 and QueryInterface through
-// Find. Create with new and hand to ComPtr<>::Adopt.
-template <class... Interfaces> class FakeObject : public Interfaces... {
-public:
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override
-    {
-        if (!out)
-            return E_POINTER;
-        *out = iid == IID_IUnknown ? Identity() : Find(iid);
-        if (!*out)
-            return E_NOINTERFACE;
-        static_cast<IUnknown*>(*out)->AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ULONG(++m_references); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        LONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return ULONG(left);
-    }
-    LONG References() const { return m_references; }
-
-protected:
-    virtual ~FakeObject() = default;
-    // The interface pointer for iid, or nullptr; IUnknown is the first interface.
-    virtual void* Find(REFIID iid) = 0;
-
-private:
-    void* Identity()
-    {
-        return static_cast<IUnknown*>(static_cast<std::tuple_element_t<0, std::tuple<Interfaces...>>*>(this));
-    }
-
-    LONG m_references = 1;
-};
+// The test doubles of host objects are plain COM objects.
+template <class... Interfaces> using FakeObject = ComObject<Interfaces...>;
 
 } // namespace tolva::win32::test
