@@ -10,10 +10,9 @@ using namespace tolva::win32;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
 {
-    if (reason == DLL_PROCESS_ATTACH) {
+    // Thread notifications stay on: the statically linked runtime frees thread-local data there.
+    if (reason == DLL_PROCESS_ATTACH)
         Module::SetHandle(module);
-        DisableThreadLibraryCalls(module);
-    }
     return TRUE;
 }
 

@@ -26,6 +26,8 @@ public:
         : m_form(std::move(form))
     { }
 
+    IDispatch* Form() const { return m_form.Get(); }
+
     std::shared_ptr<HostObject> Control(StringView name) override;
     PixelPoint ScreenOrigin() override;
     void PopupMenu(HostObject& menu, double x, double y) override;

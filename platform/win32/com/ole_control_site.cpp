@@ -131,7 +131,9 @@ ParentForm* OleControlSite::Parent()
         form = ComPtr<IDispatch>(V_DISPATCH(&value.Get()));
     if (!form)
         return nullptr;
-    m_parent = std::make_unique<DispatchParentForm>(std::move(form));
+    // The same form keeps its adapter: a caller may still be using it when asked again.
+    if (!m_parent || m_parent->Form() != form.Get())
+        m_parent = std::make_unique<DispatchParentForm>(std::move(form));
     return m_parent.get();
 }
 
