@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <ft2build.h>
 #include FT_FREETYPE_H
+#include FT_SIZES_H
 #include FT_TRUETYPE_TABLES_H
 
 namespace tolva::headless {
@@ -94,7 +95,10 @@ bool FontEngine::Select(const CanvasFont& font)
     const int64_t height = font.height == 0 ? 16 : font.height;
     const int64_t pixelsPerEm
         = height < 0 ? -height : MulDiv(face->units_per_EM, height, std::max<int64_t>(1, cellUnits));
-    FT_Set_Pixel_Sizes(face, 0, FT_UInt(std::clamp<int64_t>(pixelsPerEm, 1, MaxPixelsPerEm)));
+    if (!ActivateSize(face, unsigned(std::clamp<int64_t>(pixelsPerEm, 1, MaxPixelsPerEm)))) {
+        m_face = nullptr;
+        return false;
+    }
 
     m_metrics = Metrics();
     m_metrics.ascent = os2 ? Scale(face, os2->usWinAscent) : Scale(face, face->ascender);
@@ -107,6 +111,22 @@ bool FontEngine::Select(const CanvasFont& font)
         m_metrics.strikeoutPosition = Scale(face, os2->yStrikeoutPosition);
         m_metrics.strikeoutThickness = std::max(1, Scale(face, os2->yStrikeoutSize));
     }
+    return true;
+}
+
+bool FontEngine::ActivateSize(FT_Face face, unsigned pixelsPerEm)
+{
+    const auto key = std::make_pair(face, pixelsPerEm);
+    if (auto found = m_sizes.find(key); found != m_sizes.end())
+        return FT_Activate_Size(found->second) == 0;
+    FT_Size size = nullptr;
+    if (FT_New_Size(face, &size) != 0)
+        return false;
+    if (FT_Activate_Size(size) != 0 || FT_Set_Pixel_Sizes(face, 0, pixelsPerEm) != 0) {
+        FT_Done_Size(size);
+        return false;
+    }
+    m_sizes.emplace(key, size);
     return true;
 }
 

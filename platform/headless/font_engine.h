@@ -5,11 +5,13 @@
 
 struct FT_LibraryRec_;
 struct FT_FaceRec_;
+struct FT_SizeRec_;
 
 namespace tolva::headless {
 
 // FreeType faces for the raster canvas, opened once per file and kept for the life of the
-// engine. Every face name maps to Liberation Sans (DejaVu Sans when it is missing), the file
+// engine, with one size object per face and pixel size: switching between two sizes (a caption
+// drawn in one font and measured in another) then does not run the font's hinting program again. Every face name maps to Liberation Sans (DejaVu Sans when it is missing), the file
 // chosen by weight and italic; sizes follow the GDI convention of CanvasFont, metrics are those
 // GDI derives from the font's tables. Glyphs are rendered in monochrome, without anti-aliasing,
 // so that pixels are exact.
@@ -54,9 +56,11 @@ public:
 
 private:
     FT_FaceRec_* Open(const std::string& path);
+    bool ActivateSize(FT_FaceRec_* face, unsigned pixelsPerEm);
 
     FT_LibraryRec_* m_library = nullptr;
     std::map<std::string, FT_FaceRec_*> m_faces;
+    std::map<std::pair<FT_FaceRec_*, unsigned>, FT_SizeRec_*> m_sizes; // released with their face
     FT_FaceRec_* m_face = nullptr;
     Metrics m_metrics;
 };
