@@ -1,5 +1,5 @@
 #pragma once
-#include "host/win32/com_object.h"
+#include "platform/win32/com/com_object.h"
 #include <ocidl.h>
 #include <oleidl.h>
 
@@ -11,7 +11,7 @@ class FormControl;
 // the control site (extender, focus, control-info changes) and the ambient properties (the
 // site's IDispatch). It outlives its form control only as a shell: once disconnected it
 // refuses what needs the form.
-class ClientSite final : public ComObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch> {
+class ClientSite final : public win32::ComObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch> {
 public:
     explicit ClientSite(FormControl& control)
         : m_control(&control)

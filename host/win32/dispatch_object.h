@@ -1,5 +1,5 @@
 #pragma once
-#include "host/win32/com_object.h"
+#include "platform/win32/com/com_object.h"
 #include <oaidl.h>
 #include <span>
 
@@ -8,7 +8,7 @@ namespace tolva::host {
 // A late-bound automation object of the host (the form, its controls collection, a menu, a
 // control's extender): IDispatch without type information, members found by name regardless of
 // case. Subclasses list their members and carry out calls; arguments arrive in declared order.
-class DispatchObject : public ComObject<IDispatch> {
+class DispatchObject : public win32::ComObject<IDispatch> {
 public:
     struct Member {
         const wchar_t* name;

@@ -1,6 +1,6 @@
 #pragma once
 #include "core/string.h"
-#include "host/win32/com_object.h"
+#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/com_ptr.h"
 #include <functional>
 #include <oaidl.h>
@@ -11,7 +11,7 @@ namespace tolva::host {
 
 // Receives the events of one control on its default source interface and hands each on by
 // name: Click, MouseDown with its arguments in declared order (by reference, as fired).
-class EventSink final : public ComObject<IDispatch> {
+class EventSink final : public win32::ComObject<IDispatch> {
 public:
     using Handler = std::function<void(StringView event, std::span<VARIANT*> arguments)>;
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "host/win32/com_object.h"
+#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/com_ptr.h"
 #include <oleidl.h>
 
@@ -7,7 +7,7 @@ namespace tolva::host {
 
 // The form window as the in-place frame of its controls: it keeps the UI-active object and
 // offers no menus or toolbar space of its own to merge.
-class InPlaceFrame final : public ComObject<IOleInPlaceFrame> {
+class InPlaceFrame final : public win32::ComObject<IOleInPlaceFrame> {
 public:
     explicit InPlaceFrame(HWND window)
         : m_window(window)
