@@ -154,26 +154,6 @@ void* EventConnection::Find(REFIID iid)
     return iid == IID_IDispatch || iid == m_iid ? static_cast<IDispatch*>(this) : nullptr;
 }
 
-HRESULT EventConnection::GetTypeInfoCount(UINT* count)
-{
-    if (!count)
-        return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
-HRESULT EventConnection::GetTypeInfo(UINT, LCID, ITypeInfo** info)
-{
-    if (info)
-        *info = nullptr;
-    return DISP_E_BADINDEX;
-}
-
-HRESULT EventConnection::GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*)
-{
-    return DISP_E_UNKNOWNNAME;
-}
-
 std::wstring EventConnection::EventName(DISPID id) const
 {
     Bstr name;

@@ -1,6 +1,6 @@
 #pragma once
-#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <oaidl.h>
 #include <ocidl.h>
 #include <string>
@@ -13,16 +13,13 @@ class ScriptHost;
 // engines take by-reference arguments only as variants (Wine's VBScript copies typed ones,
 // its JScript fails on them), so a typed by-reference argument is handed over as a reference
 // to a variant holding its value, and what the procedure left there is written back.
-class EventConnection final : public ComObject<IDispatch> {
+class EventConnection final : public UntypedDispatch<IDispatch> {
 public:
     // Advises a new connection on source's default event interface; throws ComError.
     static ComPtr<EventConnection> Connect(ScriptHost& host, IUnknown* source, std::wstring prefix);
 
     void Disconnect();
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
         EXCEPINFO* exception, UINT* argumentError) override;
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/win32/com/com_object.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <oaidl.h>
 #include <vector>
 
@@ -9,14 +9,12 @@ class ScriptHost;
 
 // The script's WScript object: Echo(values...), CreateObject(progId [, prefix]),
 // ConnectObject(object, prefix), Sleep(milliseconds), Quit([exitCode]).
-class WScriptObject final : public ComObject<IDispatch> {
+class WScriptObject final : public UntypedDispatch<IDispatch> {
 public:
     explicit WScriptObject(ScriptHost& host)
         : m_host(host)
     { }
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override;
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
         EXCEPINFO* exception, UINT* argumentError) override;

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/win32/com/com_object.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <ocidl.h>
 #include <oleidl.h>
 
@@ -11,7 +11,7 @@ class FormControl;
 // the control site (extender, focus, control-info changes) and the ambient properties (the
 // site's IDispatch). It outlives its form control only as a shell: once disconnected it
 // refuses what needs the form.
-class ClientSite final : public win32::ComObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch> {
+class ClientSite final : public win32::UntypedDispatch<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch> {
 public:
     explicit ClientSite(FormControl& control)
         : m_control(&control)
@@ -49,9 +49,6 @@ public:
     HRESULT STDMETHODCALLTYPE OnFocus(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
     // IDispatch: the ambient properties
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
     HRESULT STDMETHODCALLTYPE Invoke(
         DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO*, UINT*) override;
 

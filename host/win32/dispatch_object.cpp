@@ -21,21 +21,6 @@ void* DispatchObject::Find(REFIID iid)
     return iid == IID_IDispatch ? static_cast<IDispatch*>(this) : nullptr;
 }
 
-HRESULT DispatchObject::GetTypeInfoCount(UINT* count)
-{
-    if (!count)
-        return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
-HRESULT DispatchObject::GetTypeInfo(UINT, LCID, ITypeInfo** info)
-{
-    if (info)
-        *info = nullptr;
-    return E_NOTIMPL;
-}
-
 HRESULT DispatchObject::UnknownName(LPOLESTR, DISPID* id)
 {
     *id = DISPID_UNKNOWN;

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/win32/com/com_object.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <oaidl.h>
 #include <span>
 
@@ -8,15 +8,13 @@ namespace tolva::host {
 // A late-bound automation object of the host (the form, its controls collection, a menu, a
 // control's extender): IDispatch without type information, members found by name regardless of
 // case. Subclasses list their members and carry out calls; arguments arrive in declared order.
-class DispatchObject : public win32::ComObject<IDispatch> {
+class DispatchObject : public win32::UntypedDispatch<IDispatch> {
 public:
     struct Member {
         const wchar_t* name;
         DISPID id;
     };
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override;
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
         EXCEPINFO* exception, UINT* argumentError) override;

@@ -1,7 +1,7 @@
 #pragma once
 #include "core/string.h"
-#include "platform/win32/com/com_object.h"
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <functional>
 #include <oaidl.h>
 #include <ocidl.h>
@@ -11,7 +11,7 @@ namespace tolva::host {
 
 // Receives the events of one control on its default source interface and hands each on by
 // name: Click, MouseDown with its arguments in declared order (by reference, as fired).
-class EventSink final : public win32::ComObject<IDispatch> {
+class EventSink final : public win32::UntypedDispatch<IDispatch> {
 public:
     using Handler = std::function<void(StringView event, std::span<VARIANT*> arguments)>;
 
@@ -20,9 +20,6 @@ public:
     static win32::ComPtr<EventSink> Connect(IUnknown* control, Handler handler);
     void Disconnect();
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
     HRESULT STDMETHODCALLTYPE Invoke(
         DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO*, UINT*) override;
 

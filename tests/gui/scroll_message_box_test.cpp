@@ -5,10 +5,10 @@
 // test closes each box from a timer inside its modal loop, reading the text and pressing OK.
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include "tests/gui/gui_support.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
-#include "tests/win32/support/fake_object.h"
 #include <gtest/gtest.h>
 #include <olectl.h>
 #include <optional>
@@ -21,7 +21,7 @@ constexpr DISPID ChangeId = 6;
 
 // The container's site of one control: its window owns the control's modal boxes, and its
 // ambient UserMode is whatever the test says at the moment the control asks.
-class ModeSite final : public FakeObject<IOleClientSite, IOleWindow, IDispatch> {
+class ModeSite final : public UntypedDispatch<IOleClientSite, IOleWindow, IDispatch> {
 public:
     explicit ModeSite(HWND window)
         : m_window(window)
@@ -43,16 +43,6 @@ public:
     }
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override
-    {
-        *count = 0;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override
-    {
-        return DISP_E_UNKNOWNNAME;
-    }
     HRESULT STDMETHODCALLTYPE Invoke(
         DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) override
     {

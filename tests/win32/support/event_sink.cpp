@@ -17,12 +17,6 @@ std::vector<DISPID> EventSink::Ids() const
     return ids;
 }
 
-HRESULT EventSink::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
 HRESULT EventSink::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* params, VARIANT*, EXCEPINFO*, UINT*)
 {
     Event event { id, {}, {} };

@@ -1,5 +1,5 @@
 #pragma once
-#include "tests/win32/support/fake_object.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <functional>
 #include <oaidl.h>
 #include <vector>
@@ -9,7 +9,7 @@ namespace tolva::win32::test {
 // A client's sink for a control's events: records each event with the types and values of its
 // arguments, and lets the test act inside the handler (change by-reference arguments, call back
 // into the control, release it).
-class EventSink final : public FakeObject<IDispatch> {
+class EventSink final : public UntypedDispatch<IDispatch> {
 public:
     struct Event {
         DISPID id;
@@ -27,12 +27,6 @@ public:
     const std::vector<Event>& Events() const { return m_events; }
     std::vector<DISPID> Ids() const;
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override
-    {
-        return DISP_E_UNKNOWNNAME;
-    }
     HRESULT STDMETHODCALLTYPE Invoke(
         DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO*, UINT*) override;
 

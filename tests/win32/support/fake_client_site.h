@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/win32/com/com_ptr.h"
 #include "tests/win32/support/fake_dispatch.h"
+#include "tests/win32/support/fake_object.h"
 #include <ocidl.h>
 
 namespace tolva::win32::test {

@@ -45,17 +45,6 @@ void FakeDispatch::AddObject(DISPID id, const std::wstring& name, IDispatch* obj
     AddValue(id, name, value);
 }
 
-HRESULT FakeDispatch::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
-HRESULT FakeDispatch::GetTypeInfo(UINT, LCID, ITypeInfo**)
-{
-    return E_NOTIMPL;
-}
-
 HRESULT FakeDispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
 {
     for (UINT i = 0; i < count; ++i)

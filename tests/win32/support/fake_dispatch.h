@@ -1,6 +1,6 @@
 #pragma once
 #include "platform/win32/com/ole_variant.h"
-#include "tests/win32/support/fake_object.h"
+#include "platform/win32/com/untyped_dispatch.h"
 #include <functional>
 #include <map>
 #include <memory>
@@ -12,7 +12,7 @@ namespace tolva::win32::test {
 
 // A late-bound object of the host (ambients, extender, form, collection) with members made up
 // by the test: a value to read, or a handler for any call.
-class FakeDispatch final : public FakeObject<IDispatch> {
+class FakeDispatch final : public UntypedDispatch<IDispatch> {
 public:
     // arguments in the caller's order; result is empty on entry.
     using Handler = std::function<HRESULT(WORD flags, const std::vector<VARIANT*>& arguments, VARIANT& result)>;
@@ -23,8 +23,6 @@ public:
     void AddLong(DISPID id, const std::wstring& name, LONG value);
     void AddObject(DISPID id, const std::wstring& name, IDispatch* object);
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override;
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override;
     HRESULT STDMETHODCALLTYPE Invoke(
         DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO*, UINT*) override;
