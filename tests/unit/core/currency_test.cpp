@@ -1,5 +1,5 @@
-#include "core/automation_error.h"
 #include "core/currency.h"
+#include "run_time_error_of.h"
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -8,17 +8,6 @@ namespace {
 
 constexpr int64_t MaxRaw = std::numeric_limits<int64_t>::max();
 constexpr int64_t MinRaw = std::numeric_limits<int64_t>::min();
-
-// Runs the expression and returns the run-time error number it threw (0 for none).
-template <typename F> int RunTimeErrorOf(F&& f)
-{
-    try {
-        f();
-    } catch (const AutomationError& e) {
-        return int(uint32_t(e.HResult()) - 0x800A0000u);
-    }
-    return 0;
-}
 
 TEST(Currency, KeepsFourDecimalsOfWholeAmounts)
 {

@@ -1,5 +1,5 @@
-#include "core/automation_error.h"
 #include "core/ole_date.h"
+#include "run_time_error_of.h"
 #include <gtest/gtest.h>
 
 namespace tolva {
@@ -14,16 +14,6 @@ Ymd PartsOf(double serial)
 {
     const OleDate date(serial);
     return { date.Year(), date.Month(), date.Day() };
-}
-
-template <typename F> int RunTimeErrorOf(F&& f)
-{
-    try {
-        f();
-    } catch (const AutomationError& e) {
-        return int(uint32_t(e.HResult()) - 0x800A0000u);
-    }
-    return 0;
 }
 
 TEST(OleDate, CountsDaysFromTheThirtiethOfDecember1899)

@@ -1,21 +1,11 @@
-#include "core/automation_error.h"
 #include "core/variant.h"
+#include "run_time_error_of.h"
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
 namespace tolva {
 namespace {
-
-template <typename F> int RunTimeErrorOf(F&& f)
-{
-    try {
-        f();
-    } catch (const AutomationError& e) {
-        return int(uint32_t(e.HResult()) - 0x800A0000u);
-    }
-    return 0;
-}
 
 TEST(Variant, NumbersBecomeIntegersRoundingHalfToEven)
 {
