@@ -3,6 +3,7 @@
 #include "platform/headless/headless_surface.h"
 #include "platform/headless/test_parent_form.h"
 #include "platform/headless/test_site.h"
+#include "tests/unit/support/mouse_event_log.h"
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -19,18 +20,19 @@ public:
     void KeyDown(int16_t& k, int16_t& s) override { Record(Key("KeyDown", k, s)); }
     void KeyPress(int16_t& k) override { Record("KeyPress " + std::to_string(k)); }
     void KeyUp(int16_t& k, int16_t& s) override { Record(Key("KeyUp", k, s)); }
-    void MouseDown(int16_t& b, int16_t& s, float& x, float& y) override { Record(Mouse("MouseDown", b, s, x, y)); }
-    void MouseMove(int16_t& b, int16_t& s, float& x, float& y) override { Record(Mouse("MouseMove", b, s, x, y)); }
-    void MouseUp(int16_t& b, int16_t& s, float& x, float& y) override { Record(Mouse("MouseUp", b, s, x, y)); }
+    void MouseDown(int16_t& b, int16_t& s, float& x, float& y) override
+    {
+        Record(MouseEventText("MouseDown", b, s, x, y));
+    }
+    void MouseMove(int16_t& b, int16_t& s, float& x, float& y) override
+    {
+        Record(MouseEventText("MouseMove", b, s, x, y));
+    }
+    void MouseUp(int16_t& b, int16_t& s, float& x, float& y) override { Record(MouseEventText("MouseUp", b, s, x, y)); }
 
     static std::string Key(const char* what, int16_t k, int16_t s)
     {
         return std::string(what) + " " + std::to_string(k) + " " + std::to_string(s);
-    }
-    static std::string Mouse(const char* what, int16_t b, int16_t s, float x, float y)
-    {
-        return std::string(what) + " " + std::to_string(b) + " " + std::to_string(s) + " " + std::to_string(int(x))
-            + " " + std::to_string(int(y));
     }
 
     std::vector<std::string> log;

@@ -3,6 +3,7 @@
 #include "core/memory_property_bag.h"
 #include "platform/headless/headless_surface.h"
 #include "platform/headless/test_site.h"
+#include "tests/unit/support/mouse_event_log.h"
 #include <gtest/gtest.h>
 #include <string>
 
@@ -10,23 +11,6 @@ namespace tolva {
 namespace {
 
 using OperationKind = MemoryPropertyBag::OperationKind;
-
-class ScrollBoxEventLog final : public ctlScrollBoxEvents {
-public:
-    void Click() override { log.push_back("Click"); }
-    void DblClick() override { log.push_back("DblClick"); }
-    void MouseDown(int16_t& b, int16_t& s, float& x, float& y) override { Mouse("MouseDown", b, s, x, y); }
-    void MouseMove(int16_t& b, int16_t& s, float& x, float& y) override { Mouse("MouseMove", b, s, x, y); }
-    void MouseUp(int16_t& b, int16_t& s, float& x, float& y) override { Mouse("MouseUp", b, s, x, y); }
-
-    void Mouse(const char* what, int16_t b, int16_t s, float x, float y)
-    {
-        log.push_back(std::string(what) + " " + std::to_string(b) + " " + std::to_string(s) + " "
-            + std::to_string(int(x)) + " " + std::to_string(int(y)));
-    }
-
-    std::vector<std::string> log;
-};
 
 class ScrollBoxTest : public ::testing::Test {
 protected:
@@ -40,7 +24,7 @@ protected:
     headless::HeadlessSurface surface { tree };
     headless::TestSite site;
     ctlScrollBox box { surface, site };
-    ScrollBoxEventLog events;
+    MouseEventLog<ctlScrollBoxEvents> events;
 };
 
 const std::vector<String> AllKeys { u"BackColor", u"Enabled", u"BorderStyle", u"BackColor", u"Enabled", u"BorderStyle",
