@@ -1,6 +1,5 @@
-#include "tests/gui/gui_support.h"
+#include "tests/gui/atl_hosted.h"
 #include "tests/win32/support/command_object.h"
-#include "tests/win32/support/event_sink.h"
 #include <gtest/gtest.h>
 
 namespace tolva::win32 {
@@ -13,41 +12,13 @@ constexpr uint32_t Normal = 0xCEDBDE;
 constexpr uint32_t Hot = 0xDEE7EF;
 constexpr DISPID ClickId = 1, MouseDownId = 6, MouseUpId = 8;
 
-// A TolvaCommand in Wine's ATL container (the AtlAxWin window class of atl.dll), created from
-// its ProgID as a 100 x 30 pixel child of a form, with our own sink advised on its events.
-class AtlContainer : public testing::Test {
+// A TolvaCommand in Wine's ATL container, created from its ProgID as a 100 x 30 pixel child of
+// a form, with our own sink advised on its events.
+class AtlContainer : public test::AtlHosted {
 protected:
-    void SetUp() override
-    {
-        HMODULE atl = LoadLibraryW(L"atl.dll");
-        ASSERT_TRUE(atl);
-        auto init = reinterpret_cast<BOOL(WINAPI*)()>(reinterpret_cast<void*>(GetProcAddress(atl, "AtlAxWinInit")));
-        auto getControl = reinterpret_cast<HRESULT(WINAPI*)(HWND, IUnknown**)>(
-            reinterpret_cast<void*>(GetProcAddress(atl, "AtlAxGetControl")));
-        ASSERT_TRUE(init && getControl);
-        init();
-        container = CreateWindowExW(0, L"AtlAxWin", L"TolvaKit.TolvaCommand", WS_CHILD | WS_VISIBLE, 10, 20, 100, 30,
-            form.Get(), nullptr, GetModuleHandleW(nullptr), nullptr);
-        ASSERT_TRUE(container);
-        ASSERT_EQ(getControl(container, control.Put()), S_OK);
-        ASSERT_NE(test::Advise(control.Get(), *TolvaCommandClass.eventIid, sink.Get()), 0u);
-        window = GetWindow(container, GW_CHILD);
-        ASSERT_TRUE(window);
-        UpdateWindow(window);
-    }
-    void TearDown() override
-    {
-        if (container)
-            DestroyWindow(container);
-    }
+    void SetUp() override { Host(L"TolvaKit.TolvaCommand", *TolvaCommandClass.eventIid, 10, 20, 100, 30); }
 
     void Send(UINT message, WPARAM wParam, int x, int y) { SendMessageW(window, message, wParam, MAKELPARAM(x, y)); }
-
-    test::TestWindow form { 300, 200 };
-    HWND container = nullptr;
-    HWND window = nullptr;
-    ComPtr<IUnknown> control;
-    ComPtr<test::EventSink> sink = ComPtr<test::EventSink>::Adopt(new test::EventSink(*TolvaCommandClass.eventIid));
 };
 
 TEST_F(AtlContainer, ShowsTheControlInPlaceAtTheContainersSize)
@@ -107,8 +78,7 @@ TEST_F(AtlContainer, ClosingTheContainerReleasesTheControl)
     DestroyWindow(std::exchange(container, nullptr));
     EXPECT_FALSE(IsWindow(window));
     // The container let go of its site: nothing fires any more, and the object is still usable.
-    auto dispatch = control.As<IDispatch>(IID_IDispatch);
-    ASSERT_TRUE(dispatch);
+    ASSERT_TRUE(control.As<IDispatch>(IID_IDispatch));
     EXPECT_TRUE(sink->Ids().empty());
 }
 

@@ -2,10 +2,8 @@
 // created from their ProgIDs: in place with their parts as child windows, driven with mouse
 // messages, raising their events to a sink of ours; and a refusal at run time shown through the
 // container's site.
-#include "platform/win32/com/com_ptr.h"
-#include "tests/gui/gui_support.h"
+#include "tests/gui/atl_hosted.h"
 #include "tests/win32/support/dispatch_helpers.h"
-#include "tests/win32/support/event_sink.h"
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>
@@ -16,58 +14,6 @@ namespace {
 const IID LabelEvents = { 0x6A158B5C, 0x7984, 0x4D84, { 0x90, 0xD9, 0xD0, 0x84, 0x90, 0x7F, 0x23, 0x90 } };
 const IID ScrollEvents = { 0xF18805C8, 0xD85C, 0x4F36, { 0x9A, 0x92, 0x7A, 0xDF, 0xB5, 0xCF, 0xC3, 0xF4 } };
 constexpr DISPID ClickId = 1, MouseDownId = 3, MouseMoveId = 4, MouseUpId = 5, ChangeId = 6;
-
-// One control of progId in an AtlAxWin child of a form, with sink advised on events.
-class AtlHosted : public testing::Test {
-protected:
-    void Host(const wchar_t* progId, const IID& events, int width, int height)
-    {
-        HMODULE atl = LoadLibraryW(L"atl.dll");
-        ASSERT_TRUE(atl);
-        auto init = reinterpret_cast<BOOL(WINAPI*)()>(reinterpret_cast<void*>(GetProcAddress(atl, "AtlAxWinInit")));
-        auto getControl = reinterpret_cast<HRESULT(WINAPI*)(HWND, IUnknown**)>(
-            reinterpret_cast<void*>(GetProcAddress(atl, "AtlAxGetControl")));
-        ASSERT_TRUE(init && getControl);
-        init();
-        container = CreateWindowExW(0, L"AtlAxWin", progId, WS_CHILD | WS_VISIBLE, 10, 10, width, height, form.Get(),
-            nullptr, GetModuleHandleW(nullptr), nullptr);
-        ASSERT_TRUE(container);
-        ComPtr<IUnknown> control;
-        ASSERT_EQ(getControl(container, control.Put()), S_OK);
-        dispatch = control.As<IDispatch>(IID_IDispatch);
-        ASSERT_TRUE(dispatch);
-        sink = ComPtr<EventSink>::Adopt(new EventSink(events));
-        ASSERT_NE(Advise(control.Get(), events, sink.Get()), 0u);
-        window = GetWindow(container, GW_CHILD);
-        ASSERT_TRUE(window);
-        UpdateWindow(window);
-    }
-    void TearDown() override
-    {
-        if (container)
-            DestroyWindow(container);
-    }
-
-    LONG Read(const wchar_t* name)
-    {
-        OleVariant value;
-        Get(dispatch.Get(), name, value);
-        return AsLong(value);
-    }
-    size_t Count(DISPID id) const
-    {
-        size_t n = 0;
-        for (DISPID raised : sink->Ids())
-            n += raised == id;
-        return n;
-    }
-
-    TestWindow form { 320, 240 };
-    HWND container = nullptr;
-    HWND window = nullptr;
-    ComPtr<IDispatch> dispatch;
-    ComPtr<EventSink> sink;
-};
 
 std::vector<HWND> Children(HWND parent)
 {
@@ -87,7 +33,7 @@ RECT PlaceIn(HWND child, HWND parent)
 
 class AtlLabel : public AtlHosted {
 protected:
-    void SetUp() override { Host(L"TolvaKit.TolvaLabel", LabelEvents, 120, 20); }
+    void SetUp() override { Host(L"TolvaKit.TolvaLabel", LabelEvents, 10, 10, 120, 20); }
 };
 
 TEST_F(AtlLabel, ShowsItsHotBackgroundUnderTheMouseAndClicks)
@@ -112,7 +58,7 @@ class AtlScroll : public AtlHosted {
 protected:
     void SetUp() override
     {
-        Host(L"TolvaKit.TolvaScroll", ScrollEvents, 17, 200);
+        Host(L"TolvaKit.TolvaScroll", ScrollEvents, 10, 10, 17, 200);
         // The parts: arrow buttons at the top and the bottom, the slider between them.
         for (HWND child : Children(window)) {
             RECT r = PlaceIn(child, window);
