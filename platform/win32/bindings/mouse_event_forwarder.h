@@ -1,0 +1,34 @@
+#pragma once
+#include "platform/win32/com/event_raiser.h"
+
+namespace tolva::win32 {
+
+// The mouse events of a control as its dispinterface declares them: Click (1), DblClick (2),
+// and MouseDown, MouseMove and MouseUp at MouseDownId and the two ids after it, the arguments by
+// reference to the control's own variables. Events is the control's events interface.
+template <class Events, DISPID MouseDownId> class MouseEventForwarder : public Events {
+public:
+    explicit MouseEventForwarder(EventRaiser& raiser)
+        : m_raiser(raiser)
+    { }
+
+    void Click() override { m_raiser.RaiseByReference(1); }
+    void DblClick() override { m_raiser.RaiseByReference(2); }
+    void MouseDown(int16_t& button, int16_t& shift, float& x, float& y) override
+    {
+        m_raiser.RaiseByReference(MouseDownId, button, shift, x, y);
+    }
+    void MouseMove(int16_t& button, int16_t& shift, float& x, float& y) override
+    {
+        m_raiser.RaiseByReference(MouseDownId + 1, button, shift, x, y);
+    }
+    void MouseUp(int16_t& button, int16_t& shift, float& x, float& y) override
+    {
+        m_raiser.RaiseByReference(MouseDownId + 2, button, shift, x, y);
+    }
+
+protected:
+    EventRaiser& m_raiser;
+};
+
+} // namespace tolva::win32
