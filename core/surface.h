@@ -38,6 +38,12 @@ public:
     virtual void OnLostFocus() {}
 };
 
+// How a fixed single border looks, as a form designer's Appearance: flat, a one-pixel black
+// frame; 3D, the sunken client edge of two pixels.
+namespace SurfaceAppearance {
+enum : int16_t { Flat = 0, ThreeD = 1 };
+}
+
 // A control's own window. Sizes and positions are twips; the surface's scale is twips with the
 // origin at the top-left of its client area.
 class Surface {
@@ -58,7 +64,8 @@ public:
     virtual void Move(float left, float top, float width, float height) = 0; // in the parent's scale
 
     // Properties that controls delegate to their surface. A new surface starts with back colour
-    // 0x8000000F, fore colour 0x80000012, enabled, no border, visible, the default font.
+    // 0x8000000F, fore colour 0x80000012, enabled, no border, 3D appearance, visible, the
+    // default font.
     virtual bool Enabled() const = 0;
     virtual void SetEnabled(bool enabled) = 0;
     virtual OleColor ForeColor() const = 0;
@@ -67,8 +74,10 @@ public:
     virtual void SetBackColor(OleColor color) = 0;
     virtual Font GetFont() const = 0;
     virtual void SetFont(const Font& font) = 0;
-    virtual int16_t BorderStyle() const = 0; // 0 none, 1 fixed single (sunken for a label)
+    virtual int16_t BorderStyle() const = 0; // 0 none, 1 fixed single
     virtual void SetBorderStyle(int16_t style) = 0;
+    virtual int16_t Appearance() const = 0; // a SurfaceAppearance: how a fixed single border looks
+    virtual void SetAppearance(int16_t appearance) = 0;
     virtual bool Visible() const = 0;
     virtual void SetVisible(bool visible) = 0;
     virtual String AccessKeys() const = 0;

@@ -31,6 +31,8 @@ public:
     void SetFont(const Font& font) override { m_font = font; }
     int16_t BorderStyle() const override { return m_borderStyle; }
     void SetBorderStyle(int16_t style) override { m_borderStyle = style; }
+    int16_t Appearance() const override { return m_appearance; }
+    void SetAppearance(int16_t appearance) override { m_appearance = appearance; }
     bool Visible() const override { return m_visible; }
     void SetVisible(bool visible) override { m_visible = visible; }
     String AccessKeys() const override { return m_accessKeys; }
@@ -39,9 +41,14 @@ public:
 protected:
     SurfaceProperties() = default;
 
-    // The width of the border on each side: a fixed single border is the sunken client edge
-    // of 2 pixels.
-    int32_t BorderPixels() const { return m_borderStyle == 1 ? 2 : 0; }
+    // The width of the border on each side: a fixed single border is a one-pixel frame when
+    // flat, the sunken client edge of 2 pixels in 3D.
+    int32_t BorderPixels() const
+    {
+        if (m_borderStyle != 1)
+            return 0;
+        return m_appearance == SurfaceAppearance::Flat ? 1 : 2;
+    }
 
 private:
     float m_left = 0;
@@ -53,6 +60,7 @@ private:
     OleColor m_backColor = SystemColor::ButtonFace;
     Font m_font;
     int16_t m_borderStyle = 0;
+    int16_t m_appearance = SurfaceAppearance::ThreeD;
     bool m_visible = true;
     String m_accessKeys;
 };

@@ -18,11 +18,13 @@ constexpr float MaxFontSize = 2160;
 
 } // namespace
 
+// The box is flat, as designed: its fixed single border is a one-pixel frame.
 ctlScrollBox::ctlScrollBox(Surface& surface, ControlSite& site)
     : m_surface(surface)
     , m_site(site)
 {
     m_surface.SetListener(this);
+    m_surface.SetAppearance(SurfaceAppearance::Flat);
 }
 
 ctlScrollBox::~ctlScrollBox()

@@ -8,8 +8,8 @@
 
 namespace tolva {
 
-// The library's private plain surface: a back colour and a border, no drawing of its own, and its
-// mouse events passed on to its owner. TolvaScroll's slider is one.
+// The library's private plain surface: a back colour and a flat border (a one-pixel frame), no
+// drawing of its own, and its mouse events passed on to its owner. TolvaScroll's slider is one.
 class ctlScrollBox final : private SurfaceListener {
 public:
     ctlScrollBox(Surface& surface, ControlSite& site);

@@ -60,6 +60,12 @@ void HeadlessSurface::SetBorderStyle(int16_t style)
     ResizeWindowImage();
 }
 
+void HeadlessSurface::SetAppearance(int16_t appearance)
+{
+    SurfaceProperties::SetAppearance(appearance);
+    ResizeWindowImage();
+}
+
 PixelPoint HeadlessSurface::ScreenOrigin() const
 {
     if (!m_parent)

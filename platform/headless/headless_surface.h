@@ -25,6 +25,7 @@ public:
     // Calls OnResize when the size changes.
     void Move(float left, float top, float width, float height) override;
     void SetBorderStyle(int16_t style) override;
+    void SetAppearance(int16_t appearance) override;
     bool HasFocus() const override { return m_tree.Focus() == this; }
     void SetCapture() override { m_tree.SetCapture(this); }
     void ReleaseCapture() override { m_tree.ReleaseCapture(); }
@@ -42,6 +43,8 @@ public:
     WindowTree& Tree() const { return m_tree; }
     bool HasCapture() const { return m_tree.Capture() == this; }
     const RasterCanvas& WindowImage() const { return m_window; }
+    // The width of the border on each side, in pixels.
+    using SurfaceProperties::BorderPixels;
     ColorRef WindowPixel(int32_t x, int32_t y) const { return m_window.Pixel(x, y); }
     int RefreshCount() const { return m_refreshes; }
     int PresentCount() const { return m_presents; }

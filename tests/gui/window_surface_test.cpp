@@ -87,6 +87,48 @@ TEST_F(SurfaceOnWindow, AFixedSingleBorderIsASunkenEdgeOfTwoPixels)
     EXPECT_EQ(client.right, 100);
 }
 
+// The window's whole picture, its border included, as the screen shows it.
+Pixels WholeWindow(HWND window)
+{
+    RECT outer;
+    GetWindowRect(window, &outer);
+    HDC dc = GetWindowDC(window);
+    Pixels pixels = Pixels::OfDc(dc, outer.right - outer.left, outer.bottom - outer.top);
+    ReleaseDC(window, dc);
+    return pixels;
+}
+
+TEST_F(SurfaceOnWindow, AFlatFixedSingleBorderIsABlackFrameOfOnePixel)
+{
+    surface.SetAppearance(SurfaceAppearance::Flat);
+    surface.SetBorderStyle(1);
+    EXPECT_FALSE(GetWindowLongPtrW(surface.Window(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+    RECT client;
+    GetClientRect(surface.Window(), &client);
+    EXPECT_EQ(client.right, 98);
+    EXPECT_EQ(client.bottom, 58);
+    EXPECT_EQ(surface.ScaleWidth(), 98 * 15);
+    RedrawWindow(surface.Window(), nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+
+    // On the screen and in a container's picture alike: black all round, the client inside.
+    GdiCanvas target(nullptr, 100, 60);
+    surface.DrawTo(target.Dc(), RECT { 0, 0, 100, 60 });
+    for (const Pixels& look : { WholeWindow(surface.Window()), Pixels::OfDc(target.Dc(), 100, 60) }) {
+        ASSERT_EQ(look.Width(), 100);
+        EXPECT_EQ(look.Count(0x000000), 2 * 100 + 2 * 58);
+        EXPECT_EQ(look.Count(0x000000, 1, 1, 99, 59), 0);
+        EXPECT_EQ(look.At(0, 0), 0x000000u);
+        EXPECT_EQ(look.At(99, 59), 0x000000u);
+        EXPECT_EQ(look.At(1, 1), 0x00FF00u);
+        EXPECT_EQ(look.At(98, 58), 0x00FF00u);
+    }
+
+    surface.SetAppearance(SurfaceAppearance::ThreeD); // the sunken edge instead
+    EXPECT_TRUE(GetWindowLongPtrW(surface.Window(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+    GetClientRect(surface.Window(), &client);
+    EXPECT_EQ(client.right, 96);
+}
+
 TEST_F(SurfaceOnWindow, RefreshPaintsAtOnceAndVisibilityAndEnabledReachTheWindow)
 {
     const int before = painter.paints;

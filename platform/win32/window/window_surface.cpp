@@ -35,6 +35,12 @@ void FillWithColor(HDC dc, const RECT& rect, OleColor color)
     FillRect(dc, &rect, brush.Get());
 }
 
+// The one-pixel black frame of a flat border around rect.
+void DrawFlatFrame(HDC dc, const RECT& rect)
+{
+    FrameRect(dc, &rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+}
+
 } // namespace
 
 const wchar_t* WindowSurface::ClassName()
@@ -96,13 +102,39 @@ void WindowSurface::CreateOwnWindow(HWND parent)
         style |= WS_DISABLED;
     if (m_canGetFocus)
         style |= WS_TABSTOP;
+    style |= BorderStyleBits();
     const RECT rect = PixelRect();
-    CreateWindowExW(BorderStyle() == 1 ? WS_EX_CLIENTEDGE : 0, ClassName(), L"", style, rect.left, rect.top,
-        rect.right - rect.left, rect.bottom - rect.top, parent, nullptr, Module::Handle(), this);
+    CreateWindowExW(BorderExStyleBits(), ClassName(), L"", style, rect.left, rect.top, rect.right - rect.left,
+        rect.bottom - rect.top, parent, nullptr, Module::Handle(), this);
     if (!m_window)
         return;
     for (WindowSurface* child : m_children)
         child->CreateOwnWindow(m_window);
+}
+
+// A 3D border is the system's sunken client edge. A flat one is the system's thin border, one
+// pixel that the window paints black itself (WM_NCPAINT): the system's frame colour need not be
+// black.
+DWORD WindowSurface::BorderStyleBits() const
+{
+    return BorderStyle() == 1 && Appearance() == SurfaceAppearance::Flat ? WS_BORDER : 0;
+}
+
+DWORD WindowSurface::BorderExStyleBits() const
+{
+    return BorderStyle() == 1 && Appearance() != SurfaceAppearance::Flat ? WS_EX_CLIENTEDGE : 0;
+}
+
+void WindowSurface::ApplyBorder()
+{
+    if (!m_window)
+        return;
+    const LONG_PTR style = GetWindowLongPtrW(m_window, GWL_STYLE) & ~LONG_PTR(WS_BORDER);
+    const LONG_PTR exStyle = GetWindowLongPtrW(m_window, GWL_EXSTYLE) & ~LONG_PTR(WS_EX_CLIENTEDGE);
+    SetWindowLongPtrW(m_window, GWL_STYLE, style | LONG_PTR(BorderStyleBits()));
+    SetWindowLongPtrW(m_window, GWL_EXSTYLE, exStyle | LONG_PTR(BorderExStyleBits()));
+    SetWindowPos(
+        m_window, nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void WindowSurface::DestroyWindow()
@@ -185,7 +217,10 @@ void WindowSurface::PaintTree()
         const int32_t border = BorderPixels();
         RECT edge { m_target.x - border, m_target.y - border, m_target.x - border + ToPixels(Width()),
             m_target.y - border + ToPixels(Height()) };
-        DrawEdge(m_target.dc, &edge, EDGE_SUNKEN, BF_RECT);
+        if (Appearance() == SurfaceAppearance::Flat)
+            DrawFlatFrame(m_target.dc, edge);
+        else
+            DrawEdge(m_target.dc, &edge, EDGE_SUNKEN, BF_RECT);
     }
     if (SurfaceListener* listener = Listener())
         listener->OnPaint();
@@ -226,13 +261,13 @@ void WindowSurface::SetEnabled(bool enabled)
 void WindowSurface::SetBorderStyle(int16_t style)
 {
     SurfaceProperties::SetBorderStyle(style);
-    if (!m_window)
-        return;
-    LONG_PTR exStyle = GetWindowLongPtrW(m_window, GWL_EXSTYLE);
-    exStyle = style == 1 ? (exStyle | WS_EX_CLIENTEDGE) : (exStyle & ~LONG_PTR(WS_EX_CLIENTEDGE));
-    SetWindowLongPtrW(m_window, GWL_EXSTYLE, exStyle);
-    SetWindowPos(
-        m_window, nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ApplyBorder();
+}
+
+void WindowSurface::SetAppearance(int16_t appearance)
+{
+    SurfaceProperties::SetAppearance(appearance);
+    ApplyBorder();
 }
 
 void WindowSurface::SetVisible(bool visible)
@@ -367,6 +402,11 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
     case WM_PAINT:
         OnPaintMessage(window);
         return 0;
+    case WM_NCPAINT:
+        if (!BorderStyleBits())
+            return DefWindowProcW(window, message, wParam, lParam);
+        OnNcPaintMessage(window);
+        return 0;
     case WM_ERASEBKGND:
         // A control paints every pixel itself; erasing first would only flicker.
         if (!Listener()) {
@@ -454,6 +494,17 @@ void WindowSurface::OnPaintMessage(HWND window)
         FillWithColor(dc, client, BackColor());
     }
     EndPaint(window, &paint);
+}
+
+void WindowSurface::OnNcPaintMessage(HWND window)
+{
+    RECT frame;
+    GetWindowRect(window, &frame);
+    OffsetRect(&frame, -frame.left, -frame.top);
+    if (HDC dc = GetWindowDC(window)) {
+        DrawFlatFrame(dc, frame);
+        ReleaseDC(window, dc);
+    }
 }
 
 void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

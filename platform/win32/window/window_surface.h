@@ -68,6 +68,7 @@ public:
     void Move(float left, float top, float width, float height) override;
     void SetEnabled(bool enabled) override;
     void SetBorderStyle(int16_t style) override;
+    void SetAppearance(int16_t appearance) override;
     void SetVisible(bool visible) override;
     void SetAccessKeys(StringView keys) override;
     bool HasFocus() const override;
@@ -94,9 +95,14 @@ private:
     static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnPaintMessage(HWND window);
+    void OnNcPaintMessage(HWND window);
     void OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnSizeMessage(HWND window);
     void CreateOwnWindow(HWND parent);
+    // The window styles that give the window its border, and their application to the window.
+    DWORD BorderStyleBits() const;
+    DWORD BorderExStyleBits() const;
+    void ApplyBorder();
     void Forget(); // the window is gone (destroyed by us or with its parent)
     RECT PixelRect() const;
     void RedirectTree(HDC dc, int32_t x, int32_t y);

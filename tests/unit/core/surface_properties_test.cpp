@@ -17,6 +17,7 @@ TEST(SurfaceProperties, ANewSurfaceHasTheStandardLook)
     EXPECT_TRUE(surface.Enabled());
     EXPECT_TRUE(surface.Visible());
     EXPECT_EQ(surface.BorderStyle(), 0);
+    EXPECT_EQ(surface.Appearance(), SurfaceAppearance::ThreeD);
     EXPECT_EQ(surface.GetFont(), Font {});
     EXPECT_EQ(surface.AccessKeys(), u"");
     EXPECT_EQ(surface.TwipsPerPixelX(), 15);
@@ -38,6 +39,21 @@ TEST(SurfaceProperties, TheScaleIsTheSizeLessTheBorder)
     EXPECT_EQ(surface.ScaleHeight(), 240);
     surface.Move(0, 0, 30, 30);
     EXPECT_EQ(surface.ScaleWidth(), 0);
+}
+
+TEST(SurfaceProperties, AFlatBorderTakesOnePixelEachSideAnd3DTwo)
+{
+    WindowTree tree;
+    HeadlessSurface surface(tree);
+    surface.Move(0, 0, 1200, 300);
+    surface.SetAppearance(SurfaceAppearance::Flat);
+    EXPECT_EQ(surface.ScaleWidth(), 1200) << "no border, no frame";
+    surface.SetBorderStyle(1);
+    EXPECT_EQ(surface.ScaleWidth(), 1170);
+    EXPECT_EQ(surface.ScaleHeight(), 270);
+    surface.SetAppearance(SurfaceAppearance::ThreeD);
+    EXPECT_EQ(surface.ScaleWidth(), 1140);
+    EXPECT_EQ(surface.ScaleHeight(), 240);
 }
 
 TEST(SurfaceProperties, SizesFromOutsideAreBounded)

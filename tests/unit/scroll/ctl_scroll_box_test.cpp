@@ -51,6 +51,17 @@ TEST_F(ScrollBoxTest, AnEmptyBagGivesAFramedButtonFaceBox)
     EXPECT_EQ(surface.GetFont(), site.ambientFont);
 }
 
+TEST_F(ScrollBoxTest, ItsSurfaceIsFlatSoItsBorderIsAOnePixelFrame)
+{
+    EXPECT_EQ(surface.Appearance(), SurfaceAppearance::Flat);
+    MemoryPropertyBag bag;
+    box.ReadProperties(bag); // a new box's border: fixed single
+    EXPECT_EQ(surface.ScaleWidth(), 255 - 30);
+    EXPECT_EQ(surface.ScaleHeight(), 255 - 30);
+    box.SetBorderStyle(0);
+    EXPECT_EQ(surface.ScaleWidth(), 255);
+}
+
 TEST_F(ScrollBoxTest, TheDrawingStateIsKeptAndWrittenBackUnchanged)
 {
     MemoryPropertyBag saved;

@@ -1,5 +1,6 @@
 #include "core/automation_error.h"
 #include "core/memory_property_bag.h"
+#include "platform/headless/window_picture.h"
 #include "scroll_test_fixture.h"
 #include <limits>
 
@@ -72,6 +73,30 @@ TEST_F(ScrollTest, TheArrowsAreInsetLabelsWithUpAndDownGlyphs)
     EXPECT_TRUE(hasBlack(Down()));
     EXPECT_EQ(Slider().BackColor(), 0xCEDBDEu);
     EXPECT_EQ(Slider().BorderStyle(), 1);
+}
+
+TEST_F(ScrollTest, TheSliderIsABoxFramedByOneBlackPixelAndFilledWithItsBackColour)
+{
+    EXPECT_EQ(Slider().ScaleWidth(), Slider().Width() - 30);
+    EXPECT_EQ(Slider().ScaleHeight(), Slider().Height() - 30);
+    const headless::RasterCanvas picture = headless::WindowPicture(surface);
+    const int32_t left = int32_t(Slider().Left()) / 15, top = int32_t(Slider().Top()) / 15;
+    const int32_t right = left + int32_t(Slider().Width()) / 15, bottom = top + int32_t(Slider().Height()) / 15;
+    ASSERT_EQ(right - left, 17);
+    ASSERT_EQ(bottom - top, 6);
+    for (int32_t x = left; x < right; ++x) {
+        EXPECT_EQ(picture.Pixel(x, top), 0u) << x;
+        EXPECT_EQ(picture.Pixel(x, bottom - 1), 0u) << x;
+    }
+    for (int32_t y = top; y < bottom; ++y) {
+        EXPECT_EQ(picture.Pixel(left, y), 0u) << y;
+        EXPECT_EQ(picture.Pixel(right - 1, y), 0u) << y;
+        for (int32_t x = left + 1; y > top && y < bottom - 1 && x < right - 1; ++x)
+            EXPECT_EQ(picture.Pixel(x, y), 0xCEDBDEu) << x << "," << y;
+    }
+    // The arrows keep the sunken edge of a 3D border.
+    EXPECT_EQ(Up().Appearance(), SurfaceAppearance::ThreeD);
+    EXPECT_EQ(picture.Pixel(0, 0), 0x808080u);
 }
 
 // Value and Change.
