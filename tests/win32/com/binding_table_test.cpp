@@ -5,6 +5,7 @@
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/com/type_library.h"
 #include "tests/win32/support/command_object.h"
+#include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -13,12 +14,9 @@
 namespace tolva::win32 {
 namespace {
 
-std::wstring NameOf(ITypeInfo* info, MEMBERID id = MEMBERID_NIL)
-{
-    Bstr name;
-    info->GetDocumentation(id, name.Put(), nullptr, nullptr, nullptr);
-    return name.Get() ? name.Get() : L"";
-}
+using test::EnumerationValues;
+using test::ForEachFunction;
+using test::NameOf;
 
 // A declared type in the binding table's terms, written out for messages.
 std::wstring Describe(const TypeSpec& t)
@@ -86,19 +84,12 @@ struct Declared {
 std::map<std::pair<DISPID, INVOKEKIND>, Declared> DeclaredMembers(ITypeInfo* info)
 {
     std::map<std::pair<DISPID, INVOKEKIND>, Declared> members;
-    TYPEATTR* attributes = nullptr;
-    info->GetTypeAttr(&attributes);
-    WORD count = attributes->cFuncs;
-    info->ReleaseTypeAttr(attributes);
-    for (WORD i = 0; i < count; ++i) {
-        FUNCDESC* function = nullptr;
-        info->GetFuncDesc(i, &function);
-        Declared declared { NameOf(info, function->memid), Describe(info, function->elemdescFunc.tdesc), {} };
-        for (SHORT p = 0; p < function->cParams; ++p)
-            declared.parameters.push_back(Describe(info, function->lprgelemdescParam[p].tdesc));
-        members[{ function->memid, function->invkind }] = declared;
-        info->ReleaseFuncDesc(function);
-    }
+    ForEachFunction(info, [&](const FUNCDESC& function) {
+        Declared declared { NameOf(info, function.memid), Describe(info, function.elemdescFunc.tdesc), {} };
+        for (SHORT p = 0; p < function.cParams; ++p)
+            declared.parameters.push_back(Describe(info, function.lprgelemdescParam[p].tdesc));
+        members[{ function.memid, function.invkind }] = declared;
+    });
     return members;
 }
 
@@ -209,19 +200,7 @@ std::map<std::wstring, LONG> EnumValues(const wchar_t* enumName)
     USHORT found = 1;
     std::wstring name = enumName;
     library->FindName(name.data(), 0, info.Put(), &id, &found);
-    std::map<std::wstring, LONG> values;
-    if (!found)
-        return values;
-    TYPEATTR* attributes = nullptr;
-    info->GetTypeAttr(&attributes);
-    for (WORD i = 0; i < attributes->cVars; ++i) {
-        VARDESC* variable = nullptr;
-        info->GetVarDesc(i, &variable);
-        values[NameOf(info.Get(), variable->memid)] = V_I4(variable->lpvarValue);
-        info->ReleaseVarDesc(variable);
-    }
-    info->ReleaseTypeAttr(attributes);
-    return values;
+    return found ? EnumerationValues(info.Get()) : std::map<std::wstring, LONG> {};
 }
 
 TEST(TypeLibraryEnums, MatchTheCoreConstants)

@@ -6,6 +6,7 @@
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
 #include "tests/win32/support/hosted_object.h"
+#include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
@@ -158,31 +159,14 @@ std::map<std::wstring, LONG> EnumOfProperty(DISPID id)
 {
     ComPtr<ITypeInfo> dispatch = TypeLibrary::InfoOf(*TolvaLabelClass.dispatchIid);
     std::map<std::wstring, LONG> values;
-    TYPEATTR* attributes = nullptr;
-    dispatch->GetTypeAttr(&attributes);
-    WORD count = attributes->cFuncs;
-    dispatch->ReleaseTypeAttr(attributes);
-    for (WORD i = 0; i < count; ++i) {
-        FUNCDESC* function = nullptr;
-        dispatch->GetFuncDesc(i, &function);
-        const bool found = function->memid == id && function->invkind == INVOKE_PROPERTYGET;
-        const TYPEDESC type = function->elemdescFunc.tdesc;
-        dispatch->ReleaseFuncDesc(function);
-        if (!found || type.vt != VT_USERDEFINED)
-            continue;
+    ForEachFunction(dispatch.Get(), [&](const FUNCDESC& function) {
+        const TYPEDESC& type = function.elemdescFunc.tdesc;
+        if (function.memid != id || function.invkind != INVOKE_PROPERTYGET || type.vt != VT_USERDEFINED)
+            return;
         ComPtr<ITypeInfo> enumeration;
         dispatch->GetRefTypeInfo(type.hreftype, enumeration.Put());
-        enumeration->GetTypeAttr(&attributes);
-        for (WORD v = 0; v < attributes->cVars; ++v) {
-            VARDESC* variable = nullptr;
-            enumeration->GetVarDesc(v, &variable);
-            Bstr name;
-            enumeration->GetDocumentation(variable->memid, name.Put(), nullptr, nullptr, nullptr);
-            values[name.Get()] = V_I4(variable->lpvarValue);
-            enumeration->ReleaseVarDesc(variable);
-        }
-        enumeration->ReleaseTypeAttr(attributes);
-    }
+        values = EnumerationValues(enumeration.Get());
+    });
     return values;
 }
 
@@ -207,24 +191,15 @@ TEST(LabelTypeLibrary, EnumerationsMatchTheCoreConstantsEvenWhereNamesRepeat)
 TEST(LabelTypeLibrary, EventsAreTheFiveMouseEventsWithArgumentsByReference)
 {
     ComPtr<ITypeInfo> events = TypeLibrary::InfoOf(*TolvaLabelClass.eventIid);
-    TYPEATTR* attributes = nullptr;
-    events->GetTypeAttr(&attributes);
-    WORD count = attributes->cFuncs;
-    events->ReleaseTypeAttr(attributes);
     std::map<DISPID, std::pair<std::wstring, std::vector<VARTYPE>>> declared;
-    for (WORD i = 0; i < count; ++i) {
-        FUNCDESC* function = nullptr;
-        events->GetFuncDesc(i, &function);
-        Bstr name;
-        events->GetDocumentation(function->memid, name.Put(), nullptr, nullptr, nullptr);
+    ForEachFunction(events.Get(), [&](const FUNCDESC& function) {
         std::vector<VARTYPE> parameters;
-        for (SHORT p = 0; p < function->cParams; ++p) {
-            const TYPEDESC& t = function->lprgelemdescParam[p].tdesc;
+        for (SHORT p = 0; p < function.cParams; ++p) {
+            const TYPEDESC& t = function.lprgelemdescParam[p].tdesc;
             parameters.push_back(t.vt == VT_PTR ? VARTYPE(VT_BYREF | t.lptdesc->vt) : t.vt);
         }
-        declared[function->memid] = { name.Get(), parameters };
-        events->ReleaseFuncDesc(function);
-    }
+        declared[function.memid] = { NameOf(events.Get(), function.memid), parameters };
+    });
     const std::vector<VARTYPE> mouse = { ShortByRef, ShortByRef, SingleByRef, SingleByRef };
     using Event = std::pair<std::wstring, std::vector<VARTYPE>>;
     EXPECT_EQ(declared,

@@ -4,6 +4,7 @@
 #include "platform/win32/com/control_object.h"
 #include "platform/win32/com/type_library.h"
 #include "tests/win32/support/dispatch_helpers.h"
+#include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
 
@@ -14,19 +15,10 @@ namespace {
 std::map<std::wstring, std::pair<MEMBERID, INVOKEKIND>> Readable(ITypeInfo* info)
 {
     std::map<std::wstring, std::pair<MEMBERID, INVOKEKIND>> members;
-    TYPEATTR* attributes = nullptr;
-    info->GetTypeAttr(&attributes);
-    WORD count = attributes->cFuncs;
-    info->ReleaseTypeAttr(attributes);
-    for (WORD i = 0; i < count; ++i) {
-        FUNCDESC* function = nullptr;
-        info->GetFuncDesc(i, &function);
-        Bstr name;
-        info->GetDocumentation(function->memid, name.Put(), nullptr, nullptr, nullptr);
-        if (function->invkind == INVOKE_PROPERTYGET || function->invkind == INVOKE_FUNC)
-            members[name.Get()] = { function->memid, function->invkind };
-        info->ReleaseFuncDesc(function);
-    }
+    ForEachFunction(info, [&](const FUNCDESC& function) {
+        if (function.invkind == INVOKE_PROPERTYGET || function.invkind == INVOKE_FUNC)
+            members[NameOf(info, function.memid)] = { function.memid, function.invkind };
+    });
     return members;
 }
 

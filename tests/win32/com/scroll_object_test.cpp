@@ -7,6 +7,7 @@
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
 #include "tests/win32/support/hosted_object.h"
+#include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
 
@@ -181,19 +182,10 @@ TEST_F(ScrollObject, ScrollIsNeverRaisedByAssignments)
 TEST(ScrollTypeLibrary, EventsAreDeclaredInTheirOrderWithChangeAndScrollLast)
 {
     ComPtr<ITypeInfo> events = TypeLibrary::InfoOf(*TolvaScrollClass.eventIid);
-    TYPEATTR* attributes = nullptr;
-    events->GetTypeAttr(&attributes);
-    WORD count = attributes->cFuncs;
-    events->ReleaseTypeAttr(attributes);
     std::map<DISPID, std::pair<std::wstring, SHORT>> declared;
-    for (WORD i = 0; i < count; ++i) {
-        FUNCDESC* function = nullptr;
-        events->GetFuncDesc(i, &function);
-        Bstr name;
-        events->GetDocumentation(function->memid, name.Put(), nullptr, nullptr, nullptr);
-        declared[function->memid] = { name.Get(), function->cParams };
-        events->ReleaseFuncDesc(function);
-    }
+    ForEachFunction(events.Get(), [&](const FUNCDESC& function) {
+        declared[function.memid] = { NameOf(events.Get(), function.memid), function.cParams };
+    });
     EXPECT_EQ(declared,
         (std::map<DISPID, std::pair<std::wstring, SHORT>> { { 1, { L"Click", 0 } }, { 2, { L"DblClick", 0 } },
             { 3, { L"MouseDown", 4 } }, { 4, { L"MouseMove", 4 } }, { 5, { L"MouseUp", 4 } },
