@@ -28,6 +28,13 @@ public:
 
     template <class I> ComPtr<I> As(REFIID iid) const { return m_unknown.As<I>(iid); }
 
+    // Drops the test's references (the object lives on while others hold it).
+    void Release()
+    {
+        m_dispatch.Reset();
+        m_unknown.Reset();
+    }
+
 private:
     ComPtr<IUnknown> m_unknown;
     ComPtr<IDispatch> m_dispatch;
