@@ -1,4 +1,5 @@
 #include "platform/headless/headless_surface.h"
+#include "tests/unit/support/mouse_event_log.h"
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -15,9 +16,15 @@ public:
     void OnAmbientChanged(StringView name) override { log.push_back("Ambient " + ToUtf8(name)); }
     void OnClick() override { log.push_back("Click"); }
     void OnDblClick() override { log.push_back("DblClick"); }
-    void OnMouseDown(int16_t b, int16_t s, float x, float y) override { log.push_back(Mouse("Down", b, s, x, y)); }
-    void OnMouseMove(int16_t b, int16_t s, float x, float y) override { log.push_back(Mouse("Move", b, s, x, y)); }
-    void OnMouseUp(int16_t b, int16_t s, float x, float y) override { log.push_back(Mouse("Up", b, s, x, y)); }
+    void OnMouseDown(int16_t b, int16_t s, float x, float y) override
+    {
+        log.push_back(MouseEventText("Down", b, s, x, y));
+    }
+    void OnMouseMove(int16_t b, int16_t s, float x, float y) override
+    {
+        log.push_back(MouseEventText("Move", b, s, x, y));
+    }
+    void OnMouseUp(int16_t b, int16_t s, float x, float y) override { log.push_back(MouseEventText("Up", b, s, x, y)); }
     void OnKeyDown(int16_t& keyCode, int16_t& shift) override
     {
         log.push_back("KeyDown " + std::to_string(keyCode) + " " + std::to_string(shift));
@@ -35,12 +42,6 @@ public:
     void OnAccessKeyPress(char16_t key) override { log.push_back("AccessKey " + ToUtf8(StringView(&key, 1))); }
     void OnGotFocus() override { log.push_back("GotFocus"); }
     void OnLostFocus() override { log.push_back("LostFocus"); }
-
-    static std::string Mouse(const char* what, int16_t b, int16_t s, float x, float y)
-    {
-        return std::string(what) + " " + std::to_string(b) + " " + std::to_string(s) + " " + std::to_string(int(x))
-            + " " + std::to_string(int(y));
-    }
 
     std::vector<std::string> log;
     int16_t replacement = 0;
