@@ -224,11 +224,7 @@ TEST_F(CommandOnWindow, DrawsTheSamePictureIntoAContainersDeviceContext)
     GdiCanvas target(nullptr, 100, 30);
     surface.DrawTo(target.Dc(), RECT { 0, 0, 100, 30 });
     Pixels drawn = Pixels::OfDc(target.Dc(), 100, 30);
-    int differences = 0;
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 100; ++x)
-            differences += onScreen.At(x, y) != drawn.At(x, y);
-    EXPECT_EQ(differences, 0);
+    EXPECT_EQ(drawn.DifferencesFrom(onScreen), 0);
 }
 
 TEST_F(CommandOnWindow, DrawsWithoutAWindowToo)

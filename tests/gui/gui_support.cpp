@@ -122,6 +122,15 @@ int Pixels::Count(uint32_t color, int left, int top, int right, int bottom) cons
     return count;
 }
 
+int Pixels::DifferencesFrom(const Pixels& other) const
+{
+    int differences = 0;
+    for (int y = 0; y < m_height; ++y)
+        for (int x = 0; x < m_width; ++x)
+            differences += At(x, y) != other.At(x, y);
+    return differences;
+}
+
 TestWindow::TestWindow(int width, int height, const wchar_t* title)
 {
     static const ATOM windowClass = [] {

@@ -44,6 +44,8 @@ public:
     // How many pixels of the rectangle have this colour.
     int Count(uint32_t color, int left, int top, int right, int bottom) const;
     int Count(uint32_t color) const { return Count(color, 0, 0, m_width, m_height); }
+    // How many pixels differ from other's at the same place; other is at least as large.
+    int DifferencesFrom(const Pixels& other) const;
 
 private:
     int m_width = 0;

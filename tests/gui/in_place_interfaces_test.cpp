@@ -64,11 +64,7 @@ TEST_F(InPlaceInterfaces, ViewObjectDrawsTheWindowsPictureIntoAnyDeviceContext)
     ASSERT_EQ(
         view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, target.Dc(), &bounds, nullptr, nullptr, 0), S_OK);
     Pixels drawn = Pixels::OfDc(target.Dc(), 100, 30);
-    int differences = 0;
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 100; ++x)
-            differences += drawn.At(x, y) != onScreen.At(x, y);
-    EXPECT_EQ(differences, 0);
+    EXPECT_EQ(drawn.DifferencesFrom(onScreen), 0);
     EXPECT_EQ(view->Draw(DVASPECT_ICON, -1, nullptr, nullptr, nullptr, target.Dc(), &bounds, nullptr, nullptr, 0),
         DV_E_DVASPECT);
     SIZEL extent {};
