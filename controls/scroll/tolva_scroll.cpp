@@ -210,7 +210,9 @@ void TolvaScroll::SetValue(int32_t value)
 }
 
 // Unlike every other setter, a bad Min is reported only at run time and ignored at design time.
-// A new bound pulls Value in without Change and caps both steps at the new range.
+// A new bound pulls Value in without Change and caps both steps at the new range. The bound is
+// stored and reported before the range is worked out, so a range past 32 bits keeps the new
+// bound when its Overflow error goes out.
 void TolvaScroll::SetMin(int32_t value)
 {
     if (value >= m_max) {
@@ -218,11 +220,11 @@ void TolvaScroll::SetMin(int32_t value)
             m_site.MessageBox(InvalidValueMessage, MessageBoxStyle::Critical);
         return;
     }
-    const int32_t range = CheckedSubtract(m_max, value);
     m_min = value;
     m_site.PropertyChanged(u"Min");
     if (m_value < m_min)
         m_value = m_min;
+    const int32_t range = CheckedSubtract(m_max, m_min);
     m_largeChange = std::min(m_largeChange, range);
     m_smallChange = std::min(m_smallChange, range);
     PositionSlider();
@@ -235,11 +237,11 @@ void TolvaScroll::SetMax(int32_t value)
             m_site.MessageBox(InvalidValueMessage, MessageBoxStyle::Critical);
         return;
     }
-    const int32_t range = CheckedSubtract(value, m_min);
     m_max = value;
     m_site.PropertyChanged(u"Max");
     if (m_value > m_max)
         m_value = m_max;
+    const int32_t range = CheckedSubtract(m_max, m_min);
     m_largeChange = std::min(m_largeChange, range);
     m_smallChange = std::min(m_smallChange, range);
     PositionSlider();

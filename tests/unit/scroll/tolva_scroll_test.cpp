@@ -181,15 +181,28 @@ TEST_F(ScrollTest, SmallChangeChecksTheStepAlreadyStored)
     EXPECT_EQ(site.messageBoxes, (std::vector<Box> { { u"Invalid property value", MessageBoxStyle::Critical } }));
 }
 
-TEST_F(ScrollTest, ARangeBeyond32BitsIsAnOverflowError)
+// The new bound is stored and reported first; the range that overflows is worked out after it.
+TEST_F(ScrollTest, ARangeBeyond32BitsIsAnOverflowErrorAfterTheBoundIsStored)
 {
+    constexpr int32_t LongMin = std::numeric_limits<int32_t>::min();
     try {
-        scroll.SetMin(std::numeric_limits<int32_t>::min());
+        scroll.SetMin(LongMin);
         FAIL() << "no error";
     } catch (const AutomationError& error) {
         EXPECT_EQ(error.HResult(), OverflowError);
     }
-    EXPECT_EQ(scroll.Min(), 1);
+    EXPECT_EQ(scroll.Min(), LongMin);
+    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"Min" }));
+
+    site.propertyChanges.clear();
+    try {
+        scroll.SetMax(LongMax);
+        FAIL() << "no error";
+    } catch (const AutomationError& error) {
+        EXPECT_EQ(error.HResult(), OverflowError);
+    }
+    EXPECT_EQ(scroll.Max(), LongMax);
+    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"Max" }));
 }
 
 // Arrows.
