@@ -43,7 +43,7 @@ float ChildSite::ExtenderHeight()
 
 ParentForm* ChildSite::Parent()
 {
-    return m_container.Parent();
+    return nullptr;
 }
 
 int ChildSite::MessageBox(StringView prompt, int style)

@@ -5,8 +5,10 @@
 namespace tolva {
 
 // The site a control gives the controls it embeds on its own surface. The embedding control is
-// their designer, so their PropertyChanged calls go nowhere; ambients, the parent form and the
-// modal services are the embedding control's own; the extender is the child window itself.
+// their designer, so their PropertyChanged calls go nowhere; ambients and the modal services are
+// the embedding control's own; the extender is the child window itself. Their parent is the
+// embedding control, not a form: it has no menus to pop up, so an embedded control's click never
+// reaches the host's form.
 class ChildSite final : public ControlSite {
 public:
     ChildSite(ControlSite& container, const Surface& child, String name);
