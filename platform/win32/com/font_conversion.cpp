@@ -1,6 +1,7 @@
 #include "platform/win32/com/font_conversion.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_error.h"
+#include "platform/win32/com/std_font_stream.h"
 #include <cmath>
 
 namespace tolva::win32 {
@@ -21,7 +22,10 @@ ComPtr<IFont> CreateStdFont(const Font& font)
     return result;
 }
 
-Font ReadFont(IFont* font)
+namespace {
+
+// The attributes as the font's getters report them.
+Font ReadFontProperties(IFont* font)
 {
     Font result;
     Bstr name;
@@ -43,6 +47,34 @@ Font ReadFont(IFont* font)
         result.underline = flag != FALSE;
     if (SUCCEEDED(font->get_Strikethrough(&flag)))
         result.strikethrough = flag != FALSE;
+    return result;
+}
+
+// The record keeps the name in the ANSI code page, which may have replaced characters. The name
+// the font reports is the one it was given when the two agree there. A clone is asked: a font
+// that reports its name realises itself first, and Wine's reports the realised face and charset
+// from then on, in its record too.
+String GivenName(IFont* font, const StdFontRecord& record)
+{
+    ComPtr<IFont> clone;
+    Bstr name;
+    if (SUCCEEDED(font->Clone(clone.Put())) && clone && SUCCEEDED(clone->get_Name(name.Put()))) {
+        String reported = FromBstr(name.Get());
+        if (ToAnsi(reported) == record.ansiName)
+            return reported;
+    }
+    return record.font.name;
+}
+
+} // namespace
+
+Font ReadFont(IFont* font)
+{
+    std::optional<StdFontRecord> record = SaveStdFontStream(font);
+    if (!record)
+        return ReadFontProperties(font);
+    Font result = record->font;
+    result.name = GivenName(font, *record);
     return result;
 }
 

@@ -10,7 +10,11 @@ namespace tolva::win32 {
 // A new standard font object with the given attributes.
 ComPtr<IFont> CreateStdFont(const Font& font);
 
-// The attributes of a font object.
+// The attributes a font object was given. Its getters may report others: Wine's standard font
+// answers with the font it realised (another face, the size rounded to whole pixels, the face's
+// charset) and keeps that face and charset from then on. So a standard font is read from its
+// stream form, which holds what it was given, and its getters serve only a name outside the
+// ANSI code page and fonts of other classes.
 Font ReadFont(IFont* font);
 
 // The font interface of an object handed over in a VARIANT (VT_DISPATCH or VT_UNKNOWN, also by

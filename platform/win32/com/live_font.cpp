@@ -15,11 +15,11 @@ public:
     { }
     void Detach() { m_owner = nullptr; }
 
-    HRESULT STDMETHODCALLTYPE OnChanged(DISPID) override
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID attribute) override
     {
-        return Guarded(IID_IPropertyNotifySink, [this] {
+        return Guarded(IID_IPropertyNotifySink, [this, attribute] {
             if (m_owner)
-                m_owner->OnChanged();
+                m_owner->OnChanged(attribute);
             return S_OK;
         });
     }
@@ -90,13 +90,49 @@ void LiveFont::Unwatch()
     m_font.Reset();
 }
 
-void LiveFont::OnChanged()
+namespace {
+
+// font with the attribute that the font object's dispatch id names taken from given; an id this
+// does not know (DISPID_UNKNOWN: several changed) takes them all.
+Font WithAttribute(Font font, const Font& given, DISPID attribute)
+{
+    switch (attribute) {
+    case DISPID_FONT_NAME:
+        font.name = given.name;
+        break;
+    case DISPID_FONT_SIZE:
+        font.size = given.size;
+        break;
+    case DISPID_FONT_BOLD:
+    case DISPID_FONT_WEIGHT:
+        font.weight = given.weight;
+        break;
+    case DISPID_FONT_ITALIC:
+        font.italic = given.italic;
+        break;
+    case DISPID_FONT_UNDER:
+        font.underline = given.underline;
+        break;
+    case DISPID_FONT_STRIKE:
+        font.strikethrough = given.strikethrough;
+        break;
+    case DISPID_FONT_CHARSET:
+        font.charset = given.charset;
+        break;
+    default:
+        return given;
+    }
+    return font;
+}
+
+} // namespace
+
+void LiveFont::OnChanged(DISPID attribute)
 {
     if (!m_font)
         return;
-    Font shown = ReadFont(m_font.Get());
-    m_shown = shown;
-    m_changed(shown);
+    m_shown = WithAttribute(m_shown, ReadFont(m_font.Get()), attribute);
+    m_changed(m_shown);
 }
 
 } // namespace tolva::win32

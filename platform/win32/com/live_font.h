@@ -10,9 +10,14 @@ namespace tolva::win32 {
 
 // The standard font object a control hands out as its Font property: one per control, and
 // watched through IPropertyNotifySink, so that `ctl.Font.Bold = True` changes the control.
+// The control's own Font value is what counts (it is saved and drawn); the object is a view of
+// it. A change the client makes through the object is carried over attribute by attribute: the
+// one the notification names is read from the object, the others stay as the control had them,
+// so that what the object realised meanwhile (Wine's reports another face) never reaches the
+// control.
 class LiveFont {
 public:
-    // changed receives the font's attributes after the client changed one of them.
+    // changed receives the control's font with the client's change applied.
     explicit LiveFont(std::function<void(const Font&)> changed);
     ~LiveFont();
     LiveFont(const LiveFont&) = delete;
@@ -20,12 +25,11 @@ public:
 
     // The font object showing font: the current one when it shows it, else a new one that
     // replaces it (the control's font changed some other way, say by loading). What the object
-    // shows is remembered as it was last given or read, not read back each time: a font object
-    // may report another face name than it was made with (Wine's reports the face it realised).
+    // shows is remembered as it was last given or carried over, never read back whole.
     ComPtr<IFontDisp> ObjectFor(const Font& font);
 
     // Makes the client's font object the control's (Set ctl.Font = f): later changes of it
-    // reach the control. Returns its attributes.
+    // reach the control. Returns the attributes it was given.
     Font Attach(IFont* font);
 
 private:
@@ -33,7 +37,7 @@ private:
 
     void Watch(ComPtr<IFont> font);
     void Unwatch();
-    void OnChanged();
+    void OnChanged(DISPID attribute);
 
     std::function<void(const Font&)> m_changed;
     ComPtr<IFont> m_font;

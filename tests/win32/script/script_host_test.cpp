@@ -2,8 +2,10 @@
 // control's events handled by VBScript and JScript procedures connected with ConnectObject.
 #include "host/script/script_file.h"
 #include "host/script/script_host.h"
+#include "platform/win32/com/font_conversion.h"
 #include "tests/win32/support/command_object.h"
 #include "tests/win32/support/dispatch_helpers.h"
+#include "tests/win32/support/font_printing.h"
 #include <gtest/gtest.h>
 
 namespace tolva::win32::test {
@@ -144,6 +146,26 @@ TEST_F(ScriptEvents, JScriptHandlersReceiveTypedByReferenceArgumentsSafely)
     EXPECT_EQ(echoed, (std::vector<std::wstring> { L"MouseDown 2 0 30 45", L"Click TolvaCommand1", L"KeyPress 120" }));
     EXPECT_EQ(keyAscii, 'x');
     EXPECT_EQ(command.Control().Caption(), u"Clicked");
+}
+
+TEST_F(ScriptEvents, FontChangesFromVBScriptReachTheControlAsTheScriptMadeThem)
+{
+    Font tahoma;
+    tahoma.name = u"Tahoma";
+    tahoma.size = 9;
+    ComPtr<IFont> font = CreateStdFont(tahoma);
+    ASSERT_EQ(
+        Put(command.Dispatch(), L"Font", Object(font.As<IDispatch>(IID_IDispatch).Get()), DISPATCH_PROPERTYPUTREF),
+        S_OK);
+    host = Host(ScriptHost::Language::VBScript);
+    host->AddObject(L"cmd", command.Dispatch());
+    // Reading the font first makes Wine's font object report the face and size it realised.
+    ASSERT_TRUE(host->Run(L"WScript.Echo cmd.Font.Name, cmd.Font.Size\ncmd.Font.Bold = True\ncmd.Font.Italic = True"));
+    Font expected = tahoma;
+    expected.weight = 700;
+    expected.italic = true;
+    EXPECT_EQ(command.Control().GetFont(), expected);
+    EXPECT_EQ(echoed.size(), 1u);
 }
 
 TEST_F(ScriptEvents, NoEventReachesTheScriptAfterTheHostIsGone)
