@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the release tools and shows the controls: renders every scene to PNG files in out/png,
 # then builds TolvaKit.dll and TolvaHost.exe, registers the DLL under Wine and opens
-# examples/demo.frm (under Xvfb with a scripted tour and screenshots when there is no display).
+# examples/demo.frm (without a display: under Xvfb, every example form with a tour, screenshots).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/setup.sh
@@ -35,17 +35,20 @@ if [ -n "${DISPLAY:-}" ]; then
     echo "Opening examples/demo.frm in TolvaHost; close its window to finish. Its events follow."
     "$wine" "${host[@]}"
 else
-    # No display: a virtual one, a scripted tour (hover, press, the menu button and its menu,
-    # keys) and a picture after each part of it.
-    shots="$PWD/out/demo-shots"
-    mkdir -p "$shots"
-    rm -f "$shots"/*.png
-    echo "No display: playing examples/demo.play under Xvfb"
-    xvfb-run -a -s "-screen 0 1024x768x24" "$wine" explorer /desktop=TolvaDemo,1024x768 "${host[@]}" \
-        /play "$(windows_path "$PWD/examples/demo.play")" /shots "$(windows_path "$shots")" \
-        /log "$(windows_path "$PWD/out/demo-events.txt")"
-    echo "The events are in $PWD/out/demo-events.txt"
-    echo "The screenshots are in $shots:"
-    ls "$shots"
+    # No display: a virtual one, and for each example form with a tour (examples/<name>.play) the
+    # scripted tour, with a picture after each part of it in out/demo-shots/<name>.
+    echo "No display: playing the tours of examples/ under Xvfb"
+    rm -rf "$PWD/out/demo-shots"
+    for play in examples/*.play; do
+        name=$(basename "$play" .play)
+        shots="$PWD/out/demo-shots/$name"
+        mkdir -p "$shots"
+        echo "== $name"
+        xvfb-run -a -s "-screen 0 1024x768x24" "$wine" explorer /desktop=TolvaDemo,1024x768 \
+            "$(windows_path "$bin/TolvaHost.exe")" "$(windows_path "$PWD/examples/$name.frm")" \
+            /play "$(windows_path "$PWD/$play")" /shots "$(windows_path "$shots")" \
+            /log "$(windows_path "$PWD/out/demo-events-$name.txt")"
+        echo "   events in out/demo-events-$name.txt, screenshots in out/demo-shots/$name: $(ls "$shots" | tr '\n' ' ')"
+    done
 fi
 /usr/lib/wine/wineserver -k || true
