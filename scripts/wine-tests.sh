@@ -7,6 +7,8 @@
 # The 32-bit suites run when 32-bit Wine (wine32:i386) is installed; the 32-bit DLL is built
 # either way. Tests labelled "gui" need an X display: the run then happens inside one xvfb-run
 # with Wine's virtual desktop, unless a display is already there.
+#
+# TOLVA_WINE_ARCHS=mingw64 limits a development run to one architecture (default: both).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -55,10 +57,15 @@ run_tests() {
     return $status
 }
 
+archs=${TOLVA_WINE_ARCHS:-mingw64 mingw32}
+wants() { [[ " $archs " == *" $1 "* ]]; }
+
 run_all() {
     local status=0
-    run_tests mingw64 "$wine_dir/wine64" || status=1
-    if [ -x "$wine_dir/wine" ]; then
+    wants mingw64 && { run_tests mingw64 "$wine_dir/wine64" || status=1; }
+    if ! wants mingw32; then
+        :
+    elif [ -x "$wine_dir/wine" ]; then
         run_tests mingw32 "$wine_dir/wine" || status=1
     else
         echo "== mingw32: built; its tests need 32-bit Wine (wine32:i386), which is not installed"
@@ -71,8 +78,8 @@ if [ "${1:-}" = --run-only ]; then
     exit $?
 fi
 
-build mingw64
-build mingw32
+wants mingw64 && build mingw64
+wants mingw32 && build mingw32
 
 # The GUI suite compares what GDI draws with the headless platform's pictures of the same
 # scenes: tolva_render's, from the native build scripts/test.sh made, else from a release build.
