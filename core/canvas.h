@@ -1,5 +1,6 @@
 #pragma once
 #include "core/ole_color.h"
+#include "core/rect.h"
 #include "core/string.h"
 #include <cstdint>
 
@@ -24,8 +25,11 @@ struct TextExtent {
     int32_t height = 0;
 };
 
-// An off-screen bitmap in pixels. Every drawing object a backend needs for a call is made and
-// released inside that call, so nothing accumulates with the number of repaints.
+// An off-screen bitmap in pixels. Drawing happens in the coordinates of a drawing area: an origin
+// (where (0, 0) lies on the image) and a clip rectangle (the only image pixels drawing may
+// change), both in image pixels, so that a cell, a row or a pop-up item is drawn in its own
+// coordinates. A new canvas draws at the image's top-left corner, unclipped. The drawing objects
+// a backend makes (fonts, pens, brushes) live at most as long as the canvas.
 class Canvas {
 public:
     virtual ~Canvas() = default;
@@ -45,6 +49,45 @@ public:
 
     // The RGB value of a system colour index (the low byte of a system OLE colour).
     virtual ColorRef SystemColor(int index) const = 0;
+
+    void Fill(const Rect& rect, ColorRef color) { FillRect(rect.left, rect.top, rect.right, rect.bottom, color); }
+    // The one-pixel outline just inside the rectangle.
+    void Frame(const Rect& rect, ColorRef color);
+
+    // The drawing area, in image pixels.
+    PixelPoint Origin() const { return m_origin; }
+    Rect Clip() const { return m_clip; }
+    void SetOrigin(PixelPoint origin);
+    void SetClip(const Rect& clip);
+
+    // A clip that leaves the whole image drawable.
+    static constexpr Rect Unclipped { -(1 << 30), -(1 << 30), 1 << 30, 1 << 30 };
+
+protected:
+    // Tells a backend that keeps the drawing area in a device of its own to update it.
+    virtual void OnDrawingAreaChanged() { }
+
+private:
+    PixelPoint m_origin;
+    Rect m_clip = Unclipped;
+};
+
+// Narrows a canvas's drawing area to a rectangle of its current coordinates for the lifetime of
+// this object, then restores the previous one. By default the rectangle's top-left corner becomes
+// the origin; KeepOrigin only clips.
+class DrawingArea {
+public:
+    enum OriginMode { MoveOrigin, KeepOrigin };
+
+    DrawingArea(Canvas& canvas, const Rect& area, OriginMode mode = MoveOrigin);
+    ~DrawingArea();
+    DrawingArea(const DrawingArea&) = delete;
+    DrawingArea& operator=(const DrawingArea&) = delete;
+
+private:
+    Canvas& m_canvas;
+    PixelPoint m_origin;
+    Rect m_clip;
 };
 
 // Resolves an OLE colour to RGB the way the picture-box primitives do.

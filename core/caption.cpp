@@ -60,7 +60,7 @@ int32_t Advance(Canvas& canvas, const CanvasFont& measureFont, char16_t characte
 } // namespace
 
 void DrawCaptionText(
-    Canvas& canvas, Surface& surface, StringView caption, PixelRect rect, int32_t letterSpacing, ColorRef color)
+    Canvas& canvas, Surface& surface, StringView caption, Rect rect, int32_t letterSpacing, ColorRef color)
 {
     const ScannedCaption scanned = ScanCaption(caption, surface);
     const Font font = surface.GetFont();

@@ -24,17 +24,10 @@ ScannedCaption ScanCaption(StringView caption);
 // Scans the caption and sets the surface's access-key list to its access character (or clears it).
 ScannedCaption ScanCaption(StringView caption, Surface& surface);
 
-struct PixelRect {
-    int32_t left = 0;
-    int32_t top = 0;
-    int32_t right = 0;
-    int32_t bottom = 0;
-};
-
 // Draws a caption one character at a time from the rectangle's top-left corner, the access
 // character underlined, each step the character's width in the surface's font plus
 // letterSpacing pixels. The fonts are the surface's font at a height of 1.6 pixels per point.
-void DrawCaptionText(Canvas& canvas, Surface& surface, StringView caption, PixelRect rect, int32_t letterSpacing,
+void DrawCaptionText(Canvas& canvas, Surface& surface, StringView caption, Rect rect, int32_t letterSpacing,
                      ColorRef color);
 
 // The width in pixels that DrawCaptionText advances over the whole scanned caption.

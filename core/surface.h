@@ -2,18 +2,13 @@
 #include "core/canvas.h"
 #include "core/font.h"
 #include "core/ole_color.h"
+#include "core/rect.h"
 #include "core/string.h"
 #include "core/timer.h"
 #include <cstdint>
 #include <memory>
 
 namespace tolva {
-
-struct PixelPoint {
-    int32_t x = 0;
-    int32_t y = 0;
-    bool operator==(const PixelPoint&) const = default;
-};
 
 // The notifications a platform delivers to the control that owns a surface. Mouse coordinates
 // are twips in the surface's own scale. Key arguments are references: a handler may change them.

@@ -1,5 +1,5 @@
 #pragma once
-#include "controls/label/line_pen.h"
+#include "core/line_pen.h"
 #include <cstdint>
 
 namespace tolva {

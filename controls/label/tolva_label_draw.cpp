@@ -1,5 +1,5 @@
 #include "controls/label/arrow_glyph.h"
-#include "controls/label/line_pen.h"
+#include "core/line_pen.h"
 #include "controls/label/tolva_label.h"
 #include "core/caption.h"
 #include "core/long_arithmetic.h"
@@ -61,7 +61,7 @@ void TolvaLabel::DrawLabel()
     const int32_t captionWidth = MeasureCaptionText(*canvas, m_surface, m_caption, letterSpacing);
     const double spaceHeight
         = double(canvas->MeasureText(u" ", ToCanvasFont(m_surface.GetFont())).height) * m_surface.TwipsPerPixelY();
-    PixelRect text { 0, RoundToLong(scaleHeight / 30 - spaceHeight / 30 - 1), width, height };
+    Rect text { 0, RoundToLong(scaleHeight / 30 - spaceHeight / 30 - 1), width, height };
     if (m_alignment == tkLabelAlignment::tkAlignCenter)
         text.left = RoundToLong(scaleWidth / 30 - double(captionWidth) / 2);
     else

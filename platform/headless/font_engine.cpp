@@ -75,13 +75,40 @@ FT_Face FontEngine::Open(const std::string& path)
     return face;
 }
 
+// The fonts asked for most recently are searched first.
 bool FontEngine::Select(const CanvasFont& font)
+{
+    auto found = std::find_if(
+        m_selections.rbegin(), m_selections.rend(), [&](const Selection& selection) { return selection.font == font; });
+    if (found == m_selections.rend()) {
+        Selection selection;
+        if (!Load(font, selection)) {
+            m_face = nullptr;
+            m_size = nullptr;
+            return false;
+        }
+        if (m_selections.size() >= SelectionLimit)
+            m_selections.clear();
+        m_selections.push_back(std::move(selection));
+        found = m_selections.rbegin();
+    }
+    if (FT_Activate_Size(found->size) != 0) {
+        m_face = nullptr;
+        m_size = nullptr;
+        return false;
+    }
+    m_face = found->face;
+    m_size = found->size;
+    m_metrics = found->metrics;
+    return true;
+}
+
+bool FontEngine::Load(const CanvasFont& font, Selection& selection)
 {
     const FaceFiles files = FilesFor(font);
     FT_Face face = Open(std::string("/usr/share/fonts/truetype/liberation/") + files.liberation);
     if (!face)
         face = Open(std::string("/usr/share/fonts/truetype/dejavu/") + files.dejaVu);
-    m_face = face;
     if (!face)
         return false;
 
@@ -95,64 +122,88 @@ bool FontEngine::Select(const CanvasFont& font)
     const int64_t height = font.height == 0 ? 16 : font.height;
     const int64_t pixelsPerEm
         = height < 0 ? -height : MulDiv(face->units_per_EM, height, std::max<int64_t>(1, cellUnits));
-    if (!ActivateSize(face, unsigned(std::clamp<int64_t>(pixelsPerEm, 1, MaxPixelsPerEm)))) {
-        m_face = nullptr;
+    FT_Size size = SizeFor(face, unsigned(std::clamp<int64_t>(pixelsPerEm, 1, MaxPixelsPerEm)));
+    if (!size || FT_Activate_Size(size) != 0)
         return false;
-    }
 
-    m_metrics = Metrics();
-    m_metrics.ascent = os2 ? Scale(face, os2->usWinAscent) : Scale(face, face->ascender);
-    m_metrics.descent = os2 ? Scale(face, os2->usWinDescent) : Scale(face, -face->descender);
+    Metrics& metrics = selection.metrics;
+    metrics.ascent = os2 ? Scale(face, os2->usWinAscent) : Scale(face, face->ascender);
+    metrics.descent = os2 ? Scale(face, os2->usWinDescent) : Scale(face, -face->descender);
     if (post) {
-        m_metrics.underlinePosition = Scale(face, post->underlinePosition);
-        m_metrics.underlineThickness = std::max(1, Scale(face, post->underlineThickness));
+        metrics.underlinePosition = Scale(face, post->underlinePosition);
+        metrics.underlineThickness = std::max(1, Scale(face, post->underlineThickness));
     }
     if (os2) {
-        m_metrics.strikeoutPosition = Scale(face, os2->yStrikeoutPosition);
-        m_metrics.strikeoutThickness = std::max(1, Scale(face, os2->yStrikeoutSize));
+        metrics.strikeoutPosition = Scale(face, os2->yStrikeoutPosition);
+        metrics.strikeoutThickness = std::max(1, Scale(face, os2->yStrikeoutSize));
     }
+    selection.font = font;
+    selection.face = face;
+    selection.size = size;
     return true;
 }
 
-bool FontEngine::ActivateSize(FT_Face face, unsigned pixelsPerEm)
+FT_Size FontEngine::SizeFor(FT_Face face, unsigned pixelsPerEm)
 {
     const auto key = std::make_pair(face, pixelsPerEm);
     if (auto found = m_sizes.find(key); found != m_sizes.end())
-        return FT_Activate_Size(found->second) == 0;
+        return found->second;
     FT_Size size = nullptr;
     if (FT_New_Size(face, &size) != 0)
-        return false;
+        return nullptr;
     if (FT_Activate_Size(size) != 0 || FT_Set_Pixel_Sizes(face, 0, pixelsPerEm) != 0) {
         FT_Done_Size(size);
-        return false;
+        return nullptr;
     }
     m_sizes.emplace(key, size);
-    return true;
+    return size;
+}
+
+size_t FontEngine::GlyphKeyHash::operator()(const GlyphKey& key) const
+{
+    return std::hash<const void*>()(key.size) ^ (size_t(key.character) * 0x9E3779B97F4A7C15ull);
+}
+
+// A glyph of the current font, rendered on first use.
+const FontEngine::CachedGlyph* FontEngine::Find(char32_t character)
+{
+    if (!m_face)
+        return nullptr;
+    const GlyphKey key { m_size, character };
+    if (auto found = m_glyphs.find(key); found != m_glyphs.end())
+        return &found->second;
+    if (FT_Load_Char(m_face, character, FT_LOAD_RENDER | FT_LOAD_TARGET_MONO) != 0)
+        return nullptr;
+    if (m_glyphs.size() >= GlyphLimit)
+        m_glyphs.clear();
+    const FT_GlyphSlot slot = m_face->glyph;
+    CachedGlyph& cached = m_glyphs[key];
+    cached.glyph.advance = int32_t((slot->advance.x + 32) >> 6);
+    const FT_Bitmap& bitmap = slot->bitmap;
+    if (bitmap.pixel_mode == FT_PIXEL_MODE_MONO && bitmap.buffer && bitmap.pitch > 0) {
+        cached.hasImage = true;
+        cached.glyph.left = slot->bitmap_left;
+        cached.glyph.top = slot->bitmap_top;
+        cached.glyph.width = int32_t(bitmap.width);
+        cached.glyph.rows = int32_t(bitmap.rows);
+        cached.glyph.pitch = bitmap.pitch;
+        cached.image.assign(bitmap.buffer, bitmap.buffer + size_t(bitmap.pitch) * bitmap.rows);
+        cached.glyph.bits = cached.image.data();
+    }
+    return &cached;
 }
 
 bool FontEngine::Render(char32_t character, Glyph& glyph)
 {
-    glyph = Glyph();
-    if (!m_face || FT_Load_Char(m_face, character, FT_LOAD_RENDER | FT_LOAD_TARGET_MONO) != 0)
-        return false;
-    const FT_GlyphSlot slot = m_face->glyph;
-    glyph.advance = int32_t((slot->advance.x + 32) >> 6);
-    if (slot->bitmap.pixel_mode != FT_PIXEL_MODE_MONO || !slot->bitmap.buffer || slot->bitmap.pitch <= 0)
-        return false;
-    glyph.left = slot->bitmap_left;
-    glyph.top = slot->bitmap_top;
-    glyph.width = int32_t(slot->bitmap.width);
-    glyph.rows = int32_t(slot->bitmap.rows);
-    glyph.pitch = slot->bitmap.pitch;
-    glyph.bits = slot->bitmap.buffer;
-    return true;
+    const CachedGlyph* cached = Find(character);
+    glyph = cached ? cached->glyph : Glyph();
+    return cached && cached->hasImage;
 }
 
 int32_t FontEngine::Advance(char32_t character)
 {
-    if (!m_face || FT_Load_Char(m_face, character, FT_LOAD_DEFAULT | FT_LOAD_TARGET_MONO) != 0)
-        return 0;
-    return int32_t((m_face->glyph->advance.x + 32) >> 6);
+    const CachedGlyph* cached = Find(character);
+    return cached ? cached->glyph.advance : 0;
 }
 
 } // namespace tolva::headless

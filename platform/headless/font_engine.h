@@ -2,6 +2,8 @@
 #include "core/canvas.h"
 #include <map>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 struct FT_LibraryRec_;
 struct FT_FaceRec_;
@@ -11,10 +13,12 @@ namespace tolva::headless {
 
 // FreeType faces for the raster canvas, opened once per file and kept for the life of the
 // engine, with one size object per face and pixel size: switching between two sizes (a caption
-// drawn in one font and measured in another) then does not run the font's hinting program again. Every face name maps to Liberation Sans (DejaVu Sans when it is missing), the file
-// chosen by weight and italic; sizes follow the GDI convention of CanvasFont, metrics are those
-// GDI derives from the font's tables. Glyphs are rendered in monochrome, without anti-aliasing,
-// so that pixels are exact.
+// drawn in one font and measured in another) then does not run the font's hinting program again.
+// The fonts asked for and the glyphs rendered are kept too (a bounded number of each), so that a
+// repaint costs layout and drawing, not rasterising the same glyph again. Every face name maps
+// to Liberation Sans (DejaVu Sans when it is missing), the file chosen by weight and italic; sizes
+// follow the GDI convention of CanvasFont, metrics are those GDI derives from the font's tables.
+// Glyphs are rendered in monochrome, without anti-aliasing, so that pixels are exact.
 class FontEngine {
 public:
     struct Metrics {
@@ -27,7 +31,7 @@ public:
     };
 
     // One glyph's one-bit image, the most significant bit of each byte leftmost. The bits stay
-    // valid until the next Render.
+    // valid until the next Render or Select.
     struct Glyph {
         int32_t left = 0; // from the pen position to the image's first column
         int32_t top = 0; // from the baseline up to the image's first row
@@ -55,13 +59,41 @@ public:
     int32_t Advance(char32_t character);
 
 private:
+    // A font as it was made current: its face, size object and metrics.
+    struct Selection {
+        CanvasFont font;
+        FT_FaceRec_* face = nullptr;
+        FT_SizeRec_* size = nullptr;
+        Metrics metrics;
+    };
+    struct CachedGlyph {
+        Glyph glyph; // bits point into image
+        std::vector<unsigned char> image;
+        bool hasImage = false;
+    };
+    struct GlyphKey {
+        FT_SizeRec_* size;
+        char32_t character;
+        bool operator==(const GlyphKey&) const = default;
+    };
+    struct GlyphKeyHash {
+        size_t operator()(const GlyphKey& key) const;
+    };
+    static constexpr size_t SelectionLimit = 64;
+    static constexpr size_t GlyphLimit = 16384;
+
+    bool Load(const CanvasFont& font, Selection& selection);
     FT_FaceRec_* Open(const std::string& path);
-    bool ActivateSize(FT_FaceRec_* face, unsigned pixelsPerEm);
+    FT_SizeRec_* SizeFor(FT_FaceRec_* face, unsigned pixelsPerEm);
+    const CachedGlyph* Find(char32_t character);
 
     FT_LibraryRec_* m_library = nullptr;
     std::map<std::string, FT_FaceRec_*> m_faces;
     std::map<std::pair<FT_FaceRec_*, unsigned>, FT_SizeRec_*> m_sizes; // released with their face
-    FT_FaceRec_* m_face = nullptr;
+    std::vector<Selection> m_selections;
+    std::unordered_map<GlyphKey, CachedGlyph, GlyphKeyHash> m_glyphs;
+    FT_FaceRec_* m_face = nullptr; // of the current font; null when none could be made current
+    FT_SizeRec_* m_size = nullptr;
     Metrics m_metrics;
 };
 

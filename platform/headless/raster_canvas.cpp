@@ -46,21 +46,29 @@ RasterCanvas::RasterCanvas(int32_t width, int32_t height)
     : m_width(ClampSide(width))
     , m_height(ClampSide(height))
     , m_pixels(size_t(m_width) * size_t(m_height), 0)
+    , m_visible { 0, 0, m_width, m_height }
     , m_fonts(&FontEngine::Shared())
 { }
 
+void RasterCanvas::OnDrawingAreaChanged()
+{
+    m_visible = Clip().Intersect({ 0, 0, m_width, m_height });
+}
+
+// x and y in image pixels.
 void RasterCanvas::Plot(int64_t x, int64_t y, ColorRef color)
 {
-    if (x >= 0 && y >= 0 && x < m_width && y < m_height)
+    if (x >= m_visible.left && y >= m_visible.top && x < m_visible.right && y < m_visible.bottom)
         m_pixels[size_t(y) * size_t(m_width) + size_t(x)] = color;
 }
 
 void RasterCanvas::FillRect(int32_t left, int32_t top, int32_t right, int32_t bottom, ColorRef color)
 {
-    left = std::max(left, 0);
-    top = std::max(top, 0);
-    right = std::min(right, m_width);
-    bottom = std::min(bottom, m_height);
+    const PixelPoint origin = Origin();
+    left = int32_t(std::max<int64_t>(int64_t(left) + origin.x, m_visible.left));
+    top = int32_t(std::max<int64_t>(int64_t(top) + origin.y, m_visible.top));
+    right = int32_t(std::min<int64_t>(int64_t(right) + origin.x, m_visible.right));
+    bottom = int32_t(std::min<int64_t>(int64_t(bottom) + origin.y, m_visible.bottom));
     if (right <= left || bottom <= top)
         return;
     for (int32_t y = top; y < bottom; ++y)
@@ -75,6 +83,7 @@ void RasterCanvas::Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef
     const int64_t dx = int64_t(x2) - x1, dy = int64_t(y2) - y1;
     if (dx == 0 && dy == 0)
         return;
+    const int64_t startX = int64_t(x1) + Origin().x, startY = int64_t(y1) + Origin().y;
     const int octant = Octant(dx, dy);
     const bool xMajor = octant == 1 || octant == 4 || octant == 5 || octant == 8;
     const int64_t bias = (octant == 3 || octant == 5 || octant == 6 || octant == 8) ? 1 : 0;
@@ -82,25 +91,26 @@ void RasterCanvas::Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef
     const int64_t yStep = dy >= 0 ? 1 : -1;
     const int64_t major = xMajor ? std::abs(dx) : std::abs(dy);
     const int64_t minor = xMajor ? std::abs(dy) : std::abs(dx);
-    const int64_t majorStart = xMajor ? x1 : y1;
+    const int64_t majorStart = xMajor ? startX : startY;
     const int64_t majorStep = xMajor ? xStep : yStep;
-    const int64_t majorSize = xMajor ? m_width : m_height;
+    const int64_t visibleFrom = xMajor ? m_visible.left : m_visible.top;
+    const int64_t visibleTo = (xMajor ? m_visible.right : m_visible.bottom) - 1;
 
     // The steps m (0 <= m < major: the end point is left out) whose major coordinate is visible.
     int64_t first = 0, last = major - 1;
     if (majorStep > 0) {
-        first = std::max(first, -majorStart);
-        last = std::min(last, majorSize - 1 - majorStart);
+        first = std::max(first, visibleFrom - majorStart);
+        last = std::min(last, visibleTo - majorStart);
     } else {
-        first = std::max(first, majorStart - (majorSize - 1));
-        last = std::min(last, majorStart);
+        first = std::max(first, majorStart - visibleTo);
+        last = std::min(last, majorStart - visibleFrom);
     }
     for (int64_t m = first; m <= last; ++m) {
         const auto n = int64_t((__int128(2) * m * minor + bias + major - 1) / (__int128(2) * major));
         if (xMajor)
-            Plot(x1 + m * xStep, y1 + n * yStep, color);
+            Plot(startX + m * xStep, startY + n * yStep, color);
         else
-            Plot(x1 + n * xStep, y1 + m * yStep, color);
+            Plot(startX + n * xStep, startY + m * yStep, color);
     }
 }
 
@@ -109,8 +119,9 @@ void RasterCanvas::DrawText(int32_t x, int32_t y, StringView text, const CanvasF
     if (text.empty() || !m_fonts->Select(font))
         return;
     const FontEngine::Metrics metrics = m_fonts->Current();
-    const int64_t baseline = int64_t(y) + metrics.ascent;
-    int64_t pen = x;
+    const int64_t left = int64_t(x) + Origin().x;
+    const int64_t baseline = int64_t(y) + Origin().y + metrics.ascent;
+    int64_t pen = left;
     FontEngine::Glyph glyph;
     for (char32_t character : CodePoints(text)) {
         if (m_fonts->Render(character, glyph)) {
@@ -129,7 +140,7 @@ void RasterCanvas::DrawText(int32_t x, int32_t y, StringView text, const CanvasF
     const auto bar = [&](int32_t position, int32_t thickness) {
         const int64_t top = baseline - position - thickness / 2;
         for (int64_t row = top; row < top + thickness; ++row) {
-            for (int64_t column = x; column < pen; ++column)
+            for (int64_t column = left; column < pen; ++column)
                 Plot(column, row, color);
         }
     };
@@ -198,12 +209,15 @@ ColorRef RasterCanvas::Pixel(int32_t x, int32_t y) const
 
 void RasterCanvas::CopyFrom(const RasterCanvas& source, int32_t x, int32_t y, int32_t width, int32_t height)
 {
-    width = std::min(width, source.m_width);
-    height = std::min(height, source.m_height);
-    for (int32_t row = 0; row < height; ++row) {
-        for (int32_t column = 0; column < width; ++column)
-            Plot(int64_t(x) + column, int64_t(y) + row,
-                source.m_pixels[size_t(row) * size_t(source.m_width) + size_t(column)]);
+    // The source's columns and rows that land inside the visible part of this image.
+    const int64_t fromColumn = std::max<int64_t>(0, int64_t(m_visible.left) - x);
+    const int64_t toColumn = std::min<int64_t>({ int64_t(width), source.m_width, int64_t(m_visible.right) - x });
+    const int64_t fromRow = std::max<int64_t>(0, int64_t(m_visible.top) - y);
+    const int64_t toRow = std::min<int64_t>({ int64_t(height), source.m_height, int64_t(m_visible.bottom) - y });
+    for (int64_t row = fromRow; row < toRow; ++row) {
+        const auto sourceRow = source.m_pixels.begin() + ptrdiff_t(row * source.m_width);
+        std::copy(sourceRow + ptrdiff_t(fromColumn), sourceRow + ptrdiff_t(toColumn),
+            m_pixels.begin() + ptrdiff_t((y + row) * m_width + x + fromColumn));
     }
 }
 

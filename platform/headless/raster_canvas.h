@@ -8,7 +8,8 @@ class FontEngine;
 
 // An off-screen image in memory, one 0x00BBGGRR value per pixel, drawn with GDI's pixel rules:
 // rectangles exclude their right and bottom edges, lines their end point, text is rendered
-// without anti-aliasing. A new image is black. Everything outside the image is clipped.
+// without anti-aliasing. A new image is black. Everything outside the image and the clip is left
+// out.
 class RasterCanvas final : public Canvas {
 public:
     // Larger sides are clamped, so that a size from outside cannot exhaust memory.
@@ -29,8 +30,12 @@ public:
     // Throws std::out_of_range outside the image.
     ColorRef Pixel(int32_t x, int32_t y) const;
 
-    // Copies width x height pixels from the source's top-left corner to (x, y), clipped.
+    // Copies width x height pixels from the source's top-left corner to (x, y) of the image,
+    // whatever the origin, inside the clip.
     void CopyFrom(const RasterCanvas& source, int32_t x, int32_t y, int32_t width, int32_t height);
+
+protected:
+    void OnDrawingAreaChanged() override;
 
 private:
     void Plot(int64_t x, int64_t y, ColorRef color);
@@ -38,6 +43,7 @@ private:
     int32_t m_width;
     int32_t m_height;
     std::vector<ColorRef> m_pixels;
+    Rect m_visible; // the clip inside the image
     FontEngine* m_fonts;
 };
 

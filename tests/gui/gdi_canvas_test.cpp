@@ -1,5 +1,6 @@
 #include "platform/win32/gdi/gdi_canvas.h"
 #include "tests/gui/gui_support.h"
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace tolva::win32 {
@@ -124,6 +125,71 @@ TEST(GdiCanvas, HoldsNoDrawingObjectsAfterItsCalls)
         canvas.MeasureText(u"Abc", SansFont());
     }
     EXPECT_EQ(test::GdiObjectCount(), before);
+}
+
+TEST(GdiCanvas, KeepsWhatOneCanvasAsksForBoundedWhateverItAsksFor)
+{
+    const int before = test::GdiObjectCount();
+    {
+        GdiCanvas canvas(nullptr, 40, 20);
+        for (int i = 0; i < 500; ++i) {
+            canvas.FillRect(0, 0, 40, 20, ColorRef(i));
+            canvas.Line(0, 0, 39, 19, ColorRef(i));
+            canvas.DrawText(1, 1, u"Abc", SansFont(-8 - i % 100), Red);
+        }
+        EXPECT_LE(test::GdiObjectCount(), before + 2 + 3 * int(DrawingObjects::Limit));
+        // Emptied kinds were deselected first: the canvas still draws text.
+        canvas.FillRect(0, 0, 40, 20, White);
+        canvas.DrawText(1, 1, u"Abc", SansFont(), Red);
+        EXPECT_GT(Read(canvas).Count(Red), 10);
+    }
+    EXPECT_EQ(test::GdiObjectCount(), before);
+}
+
+// Drawing inside an area is drawing at the area's offset, with every pixel outside the area and
+// the enclosing clip left as it was: checked for each primitive against the same drawing done
+// without an area and masked.
+TEST(GdiCanvasDrawingArea, DrawsInTheAreasCoordinatesOnlyInsideIt)
+{
+    const struct {
+        const char* name;
+        std::function<void(Canvas&, int32_t dx, int32_t dy)> draw;
+    } primitives[] = {
+        { "fill", [](Canvas& c, int32_t dx, int32_t dy) { c.FillRect(dx - 3, dy + 2, dx + 30, dy + 9, Blue); } },
+        { "frame", [](Canvas& c, int32_t dx, int32_t dy) { c.Frame(Rect { 1, 1, 15, 8 }.Offset(dx, dy), Blue); } },
+        { "line", [](Canvas& c, int32_t dx, int32_t dy) { c.Line(dx - 5, dy - 2, dx + 40, dy + 12, Blue); } },
+        { "text", [](Canvas& c, int32_t dx, int32_t dy) { c.DrawText(dx - 4, dy - 3, u"Wgx", SansFont(), Blue); } },
+    };
+    const Rect outer { 4, 2, 36, 18 }; // a row, in image pixels
+    const Rect cell { 6, 3, 26, 13 }; // a cell of it, in the row's coordinates
+    const Rect visible = cell.Offset(outer.left, outer.top).Intersect(outer);
+    for (const auto& primitive : primitives) {
+        GdiCanvas expected(nullptr, 40, 20), actual(nullptr, 40, 20);
+        expected.FillRect(0, 0, 40, 20, White);
+        actual.FillRect(0, 0, 40, 20, White);
+        primitive.draw(expected, outer.left + cell.left, outer.top + cell.top);
+        {
+            DrawingArea row(actual, outer);
+            DrawingArea inCell(actual, cell);
+            primitive.draw(actual, 0, 0);
+        }
+        const Pixels want = Read(expected), got = Read(actual);
+        int inked = 0;
+        for (int32_t y = 0; y < 20; ++y) {
+            for (int32_t x = 0; x < 40; ++x) {
+                const ColorRef pixel = visible.Contains(x, y) ? want.At(x, y) : White;
+                EXPECT_EQ(got.At(x, y), pixel) << primitive.name << " at " << x << "," << y;
+                inked += pixel == Blue ? 1 : 0;
+            }
+        }
+        EXPECT_GT(inked, 0) << primitive.name;
+        EXPECT_LT(inked, visible.Width() * visible.Height()) << primitive.name;
+        // Back to the whole image: a copy takes the image from its corner.
+        actual.FillRect(0, 0, 1, 1, Red);
+        GdiCanvas target(nullptr, 2, 2);
+        actual.CopyTo(target.Dc(), 0, 0, 1, 1);
+        EXPECT_EQ(Read(target).At(0, 0), Red) << primitive.name;
+    }
 }
 
 } // namespace

@@ -11,11 +11,6 @@ int32_t ClampSide(int32_t side)
     return std::clamp(side, 0, GdiCanvas::MaxSide);
 }
 
-const wchar_t* Wide(const String& text)
-{
-    return reinterpret_cast<const wchar_t*>(text.c_str());
-}
-
 const wchar_t* Wide(StringView text)
 {
     return reinterpret_cast<const wchar_t*>(text.data());
@@ -39,58 +34,69 @@ HBITMAP CreateImage(HDC compatibleWith, int32_t width, int32_t height)
 
 } // namespace
 
-GdiObject<HFONT> CreateCanvasFont(const CanvasFont& font)
-{
-    return GdiObject<HFONT>(CreateFontW(font.height, 0, 0, 0, font.weight, font.italic, font.underline, font.strikeOut,
-        font.charSet, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, Wide(font.face)));
-}
-
 GdiCanvas::GdiCanvas(HDC compatibleWith, int32_t width, int32_t height)
     : m_width(ClampSide(width))
     , m_height(ClampSide(height))
     , m_dc(compatibleWith)
     , m_bitmap(CreateImage(compatibleWith, m_width, m_height))
     , m_bitmapSelection(m_dc.Get(), m_bitmap.Get())
-{ }
+    , m_objects(m_dc.Get())
+    , m_textColor(GetTextColor(m_dc.Get()))
+{
+    SetBkMode(m_dc.Get(), TRANSPARENT);
+}
 
 void GdiCanvas::FillRect(int32_t left, int32_t top, int32_t right, int32_t bottom, ColorRef color)
 {
-    GdiObject<HBRUSH> brush(CreateSolidBrush(color));
     const RECT rect { left, top, right, bottom };
-    ::FillRect(m_dc.Get(), &rect, brush.Get());
+    if (HBRUSH brush = m_objects.Brush(color))
+        ::FillRect(m_dc.Get(), &rect, brush);
 }
 
 void GdiCanvas::Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef color)
 {
-    GdiObject<HPEN> pen(CreatePen(PS_SOLID, 1, color));
-    Selection selected(m_dc.Get(), pen.Get());
+    if (!m_objects.SelectPen(color))
+        return;
     MoveToEx(m_dc.Get(), x1, y1, nullptr);
     LineTo(m_dc.Get(), x2, y2);
 }
 
 void GdiCanvas::DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color)
 {
-    if (text.empty())
+    if (text.empty() || !m_objects.SelectFont(font))
         return;
-    GdiObject<HFONT> gdiFont = CreateCanvasFont(font);
-    Selection selected(m_dc.Get(), gdiFont.Get());
-    SetBkMode(m_dc.Get(), TRANSPARENT);
-    SetTextColor(m_dc.Get(), color);
+    if (color != m_textColor) {
+        SetTextColor(m_dc.Get(), color);
+        m_textColor = color;
+    }
     ExtTextOutW(m_dc.Get(), x, y, 0, nullptr, Wide(text), UINT(Count(text)), nullptr);
 }
 
 TextExtent GdiCanvas::MeasureText(StringView text, const CanvasFont& font)
 {
-    GdiObject<HFONT> gdiFont = CreateCanvasFont(font);
-    Selection selected(m_dc.Get(), gdiFont.Get());
-    SIZE size {};
+    if (!m_objects.SelectFont(font))
+        return {};
     if (text.empty()) {
         TEXTMETRICW metrics {};
         GetTextMetricsW(m_dc.Get(), &metrics);
         return { 0, metrics.tmHeight };
     }
+    SIZE size {};
     GetTextExtentPoint32W(m_dc.Get(), Wide(text), Count(text), &size);
     return { size.cx, size.cy };
+}
+
+// The origin is the viewport's; the clip is set in the new logical coordinates and bounded by
+// the image, so that GDI sees only small numbers.
+void GdiCanvas::OnDrawingAreaChanged()
+{
+    const PixelPoint origin = Origin();
+    SetViewportOrgEx(m_dc.Get(), origin.x, origin.y, nullptr);
+    SelectClipRgn(m_dc.Get(), nullptr);
+    const Rect clip = Clip().Intersect({ 0, 0, m_width, m_height });
+    if (clip != Rect { 0, 0, m_width, m_height })
+        IntersectClipRect(m_dc.Get(), clip.left - origin.x, clip.top - origin.y, std::max(clip.left, clip.right) - origin.x,
+            std::max(clip.top, clip.bottom) - origin.y);
 }
 
 ColorRef GdiCanvas::SystemColor(int index) const
@@ -101,14 +107,15 @@ ColorRef GdiCanvas::SystemColor(int index) const
 void GdiCanvas::CopyTo(
     HDC target, int32_t x, int32_t y, int32_t width, int32_t height, int32_t sourceX, int32_t sourceY) const
 {
-    BitBlt(target, x, y, width, height, m_dc.Get(), sourceX, sourceY, SRCCOPY);
+    // Source coordinates are logical: the drawing area's origin must not move the image.
+    BitBlt(target, x, y, width, height, m_dc.Get(), sourceX - Origin().x, sourceY - Origin().y, SRCCOPY);
 }
 
 void GdiCanvas::StretchTo(HDC target, const RECT& bounds) const
 {
     const int previous = SetStretchBltMode(target, COLORONCOLOR);
-    StretchBlt(target, bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, m_dc.Get(), 0,
-        0, m_width, m_height, SRCCOPY);
+    StretchBlt(target, bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, m_dc.Get(),
+        -Origin().x, -Origin().y, m_width, m_height, SRCCOPY);
     SetStretchBltMode(target, previous);
 }
 

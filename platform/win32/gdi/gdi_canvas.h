@@ -1,5 +1,6 @@
 #pragma once
 #include "core/canvas.h"
+#include "platform/win32/gdi/drawing_objects.h"
 #include "platform/win32/gdi/gdi_object.h"
 #include "platform/win32/gdi/memory_dc.h"
 #include "platform/win32/gdi/selection.h"
@@ -8,8 +9,9 @@
 namespace tolva::win32 {
 
 // An off-screen image: a memory device context with a bitmap compatible with a window's device
-// context. The pens, brushes and fonts of a drawing call are created, selected, deselected and
-// deleted inside that call; the device context and bitmap live as long as the canvas.
+// context. The pens, brushes and fonts it draws with are made once per description and deleted
+// with the canvas (DrawingObjects); the drawing area is the device context's viewport origin and
+// clip region.
 class GdiCanvas final : public Canvas {
 public:
     // Sides are clamped to 0 .. MaxSide pixels; an image the system cannot allocate stays blank.
@@ -35,15 +37,17 @@ public:
 
     HDC Dc() const { return m_dc.Get(); }
 
+protected:
+    void OnDrawingAreaChanged() override;
+
 private:
     int32_t m_width;
     int32_t m_height;
     MemoryDc m_dc;
     GdiObject<HBITMAP> m_bitmap;
     Selection m_bitmapSelection; // after the bitmap: deselects it before it is deleted
+    DrawingObjects m_objects; // after the device context: deselected and deleted before it
+    ColorRef m_textColor;
 };
-
-// Creates the GDI font for a canvas font.
-GdiObject<HFONT> CreateCanvasFont(const CanvasFont& font);
 
 } // namespace tolva::win32

@@ -1,4 +1,5 @@
 #include "platform/headless/raster_canvas.h"
+#include <functional>
 #include <gtest/gtest.h>
 #include <set>
 #include <stdexcept>
@@ -248,6 +249,62 @@ TEST(RasterCanvasCopy, CopiesTheSourcesCornerClipped)
     target.CopyFrom(source, -1, 0, 10, 1);
     EXPECT_EQ(target.Pixel(0, 0), Ink);
     EXPECT_EQ(target.Pixel(2, 0), 0u);
+}
+
+// Drawing inside an area is drawing at the area's offset, with every pixel outside the area and
+// the enclosing clip left as it was: checked for each primitive against the same drawing done
+// without an area and masked.
+TEST(RasterCanvasDrawingArea, DrawsInTheAreasCoordinatesOnlyInsideIt)
+{
+    CanvasFont font;
+    font.height = -13;
+    const struct {
+        const char* name;
+        std::function<void(Canvas&, int32_t dx, int32_t dy)> draw;
+    } primitives[] = {
+        { "fill", [](Canvas& c, int32_t dx, int32_t dy) { c.FillRect(dx - 3, dy + 2, dx + 30, dy + 9, Ink); } },
+        { "frame", [](Canvas& c, int32_t dx, int32_t dy) { c.Frame(Rect { 1, 1, 15, 8 }.Offset(dx, dy), Ink); } },
+        { "line", [](Canvas& c, int32_t dx, int32_t dy) { c.Line(dx - 5, dy - 2, dx + 40, dy + 12, Ink); } },
+        { "text", [&](Canvas& c, int32_t dx, int32_t dy) { c.DrawText(dx - 4, dy - 3, u"Wgx", font, Ink); } },
+    };
+    const Rect outer { 4, 2, 36, 18 }; // a row, in image pixels
+    const Rect cell { 6, 3, 26, 13 }; // a cell of it, in the row's coordinates
+    const Rect visible = cell.Offset(outer.left, outer.top).Intersect(outer);
+    for (const auto& primitive : primitives) {
+        RasterCanvas expected(40, 20), actual(40, 20);
+        primitive.draw(expected, outer.left + cell.left, outer.top + cell.top);
+        {
+            DrawingArea row(actual, outer);
+            DrawingArea inCell(actual, cell);
+            primitive.draw(actual, 0, 0);
+        }
+        EXPECT_EQ(actual.Origin(), PixelPoint {}) << primitive.name;
+        EXPECT_EQ(actual.Clip(), Canvas::Unclipped) << primitive.name;
+        int inked = 0;
+        for (int32_t y = 0; y < 20; ++y) {
+            for (int32_t x = 0; x < 40; ++x) {
+                const ColorRef want = visible.Contains(x, y) ? expected.Pixel(x, y) : 0;
+                EXPECT_EQ(actual.Pixel(x, y), want) << primitive.name << " at " << x << "," << y;
+                inked += want == Ink ? 1 : 0;
+            }
+        }
+        EXPECT_GT(inked, 0) << primitive.name;
+        EXPECT_LT(inked, visible.Width() * visible.Height()) << primitive.name;
+    }
+}
+
+TEST(RasterCanvasDrawingArea, AClipOnlyAreaKeepsTheOriginAndAnEmptyOneDrawsNothing)
+{
+    RasterCanvas canvas(8, 8);
+    {
+        DrawingArea clip(canvas, Rect { 2, 2, 4, 4 }, DrawingArea::KeepOrigin);
+        canvas.FillRect(0, 0, 8, 8, Ink);
+    }
+    EXPECT_EQ(LitPixels(canvas), (Points { { 2, 2 }, { 3, 2 }, { 2, 3 }, { 3, 3 } }));
+    DrawingArea empty(canvas, Rect { 5, 5, 5, 9 });
+    canvas.FillRect(-10, -10, 10, 10, 0x123456);
+    canvas.Line(-10, -10, 10, 10, 0x123456);
+    EXPECT_EQ(LitPixels(canvas).size(), 4u);
 }
 
 } // namespace

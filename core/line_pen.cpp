@@ -1,4 +1,4 @@
-#include "controls/label/line_pen.h"
+#include "core/line_pen.h"
 
 namespace tolva {
 

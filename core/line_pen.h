@@ -1,6 +1,6 @@
 #pragma once
 #include "core/canvas.h"
-#include "core/surface.h"
+#include "core/rect.h"
 #include <cstdint>
 
 namespace tolva {
