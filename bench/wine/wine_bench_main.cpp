@@ -1,7 +1,8 @@
 // Hover repaints of the registered controls under Wine, next to the system push button's full
 // repaint and the floor of one fill + blit of the same pixels; then the cost of the single calls
 // a repaint is made of, and the GDI objects and memory over many hover repaints. Prints Markdown
-// tables. Arguments: [hover repaints for the flatness check, default 100000].
+// tables. Arguments: [hover repaints for the flatness check, default 100000] [only the controls
+// whose name contains this text].
 #include "bench/wine/hover_cases.h"
 #include "bench/wine/timing.h"
 #include "platform/win32/gdi/gdi_object.h"
@@ -71,31 +72,30 @@ std::vector<TimedCase> SingleCalls(HWND window, HDC image, HFONT font)
         { L"SetCapture (every move over a control)", [window](int) { SetCapture(window); } },
         { L"ReleaseCapture", [](int) { ReleaseCapture(); } },
         { L"GetFocus", [](int) { GetFocus(); } },
+        { L"GetKeyState (Alt for a mouse event)", [](int) { GetKeyState(VK_MENU); } },
         { L"GetDC + ReleaseDC of the window", [window](int) { win32::WindowDc dc(window); } },
-        { L"CreateCompatibleDC + DeleteDC", [window](int) {
-              win32::WindowDc screen(window);
-              win32::MemoryDc dc(screen.Get());
-          } },
-        { L"CreateCompatibleBitmap 120 x 30 + DeleteObject", [window](int) {
-              win32::WindowDc screen(window);
-              GdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(screen.Get(), Width, Height));
-          } },
-        { L"CreateCompatibleDC + 120 x 30 bitmap + delete", [window](int) {
+        { L"CreateCompatibleDC + CreateCompatibleBitmap of a window, 120 x 30, + delete", [window](int) {
               win32::WindowDc screen(window);
               win32::MemoryDc dc(screen.Get());
               GdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(screen.Get(), Width, Height));
               win32::Selection selected(dc.Get(), bitmap.Get());
           } },
+        { L"CreateCompatibleDC(null) + 32-bit DIB section 120 x 30 + delete (a canvas)", [](int) {
+              win32::MemoryDc dc(nullptr);
+              BITMAPINFO info {};
+              info.bmiHeader = { sizeof(BITMAPINFOHEADER), Width, -Height, 1, 32, BI_RGB, 0, 0, 0, 0, 0 };
+              void* bits = nullptr;
+              GdiObject<HBITMAP> bitmap(CreateDIBSection(dc.Get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+              win32::Selection selected(dc.Get(), bitmap.Get());
+          } },
+        { L"CreateCompatibleDC(null) + DeleteDC", [](int) { win32::MemoryDc dc(nullptr); } },
         { L"CreateFont + select + delete", [image](int) {
               GdiObject<HFONT> made(CreateFontW(-11, 0, 0, 0, 400, 0, 0, 0, 0, 0, 0, 0, 0, L"MS Sans Serif"));
               win32::Selection selected(image, made.Get());
           } },
-        { L"ExtTextOut of one character", [image, font](int) {
-              win32::Selection selected(image, font);
-              ExtTextOutW(image, 4, 4, 0, nullptr, L"N", 1, nullptr);
-          } },
-        { L"GetTextExtentPoint32 of one character", [image, font](int) {
-              win32::Selection selected(image, font);
+        { L"SelectObject of a font and back", [image, font](int) { win32::Selection selected(image, font); } },
+        { L"ExtTextOut of one character", [image](int) { ExtTextOutW(image, 4, 4, 0, nullptr, L"N", 1, nullptr); } },
+        { L"GetTextExtentPoint32 of one character", [image](int) {
               SIZE size;
               GetTextExtentPoint32W(image, L"N", 1, &size);
           } },
@@ -110,10 +110,11 @@ std::vector<TimedCase> SingleCalls(HWND window, HDC image, HFONT font)
     };
 }
 
-int Run(int flatRepaints)
+int Run(int flatRepaints, const std::wstring& only)
 {
     win32::test::TestWindow form(Width + 20, 10 + 6 * (Height + 10), L"TolvaKit hover benchmark");
     std::vector<HoverCase> hoverCases = HoverCases();
+    std::erase_if(hoverCases, [&](const HoverCase& c) { return c.name.find(only) == std::wstring::npos; });
     std::vector<std::unique_ptr<AtlControl>> controls;
     std::vector<TimedCase> cases;
     for (size_t i = 0; i < hoverCases.size(); ++i) {
@@ -157,6 +158,7 @@ int Run(int flatRepaints)
     PrintTimes(L"control", cases, times, buttonTime, blitTime);
 
     GdiObject<HFONT> font(CreateFontW(-11, 0, 0, 0, 400, 0, 0, 0, 0, 0, 0, 0, 0, L"MS Sans Serif"));
+    win32::Selection imageFont(image.Get(), font.Get());
     const std::vector<TimedCase> calls = SingleCalls(floorWindow, image.Get(), font.Get());
     const std::vector<double> callTimes = MicrosecondsPerRepetition(calls, Rounds, Repetitions);
     ReleaseCapture();
@@ -186,11 +188,12 @@ int Run(int flatRepaints)
 int main(int argc, char** argv)
 {
     const int flatRepaints = argc > 1 ? std::atoi(argv[1]) : 100000;
+    const std::string only = argc > 2 ? argv[2] : "";
     if (FAILED(OleInitialize(nullptr)))
         return 2;
     int status = 0;
     try {
-        status = Run(flatRepaints);
+        status = Run(flatRepaints, std::wstring(only.begin(), only.end()));
     } catch (const std::exception& e) {
         std::fprintf(stderr, "%s\n", e.what());
         status = 1;

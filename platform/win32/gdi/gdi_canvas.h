@@ -43,10 +43,10 @@ protected:
 private:
     int32_t m_width;
     int32_t m_height;
+    DrawingObjects m_objects { m_dc }; // before the device context: deleted after it
     MemoryDc m_dc;
     GdiObject<HBITMAP> m_bitmap;
     Selection m_bitmapSelection; // after the bitmap: deselects it before it is deleted
-    DrawingObjects m_objects; // after the device context: deselected and deleted before it
     ColorRef m_textColor;
 };
 

@@ -1,4 +1,5 @@
 #include "platform/win32/window/input_state.h"
+#include "platform/win32/window/alt_key_state.h"
 
 namespace tolva::win32::InputState {
 
@@ -42,6 +43,20 @@ int16_t ShiftKeys()
     if (GetKeyState(VK_CONTROL) < 0)
         shift |= 2;
     if (GetKeyState(VK_MENU) < 0)
+        shift |= 4;
+    return shift;
+}
+
+// A mouse message carries Shift and Ctrl; Alt is followed from the thread's keyboard messages,
+// so that a mouse move asks the system nothing.
+int16_t ShiftKeys(WPARAM mouseWParam)
+{
+    int16_t shift = 0;
+    if (mouseWParam & MK_SHIFT)
+        shift |= 1;
+    if (mouseWParam & MK_CONTROL)
+        shift |= 2;
+    if (AltKeyState::Down())
         shift |= 4;
     return shift;
 }

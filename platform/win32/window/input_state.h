@@ -17,6 +17,9 @@ int16_t ButtonOf(UINT message);
 int16_t ButtonsHeld(WPARAM wParam);
 // Shift 1, Ctrl 2, Alt 4, from the keyboard state of the current message.
 int16_t ShiftKeys();
+// The same for a mouse message: Shift and Ctrl from its wParam, Alt from AltKeyState (an
+// AltKeyState must live on the thread for that to be cheap).
+int16_t ShiftKeys(WPARAM mouseWParam);
 // Client pixels to twips at 15 twips per pixel; lParam coordinates are signed.
 float PixelsToTwips(int pixels);
 

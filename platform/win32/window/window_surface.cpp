@@ -148,6 +148,8 @@ void WindowSurface::Forget()
 {
     m_window = nullptr;
     m_buttonsDown = 0;
+    m_focused = false;
+    m_captured = false;
 }
 
 RECT WindowSurface::PixelRect() const
@@ -286,15 +288,20 @@ void WindowSurface::SetAccessKeys(StringView keys)
         m_owner->OnAccessKeysChanged();
 }
 
+// Followed from the focus messages rather than asked of the system on every paint.
 bool WindowSurface::HasFocus() const
 {
-    return m_window && GetFocus() == m_window;
+    return m_focused;
 }
 
+// Taking the capture again while holding it changes nothing: the system is asked only when the
+// window does not hold it (as far as WM_CAPTURECHANGED tells).
 void WindowSurface::SetCapture()
 {
-    if (m_window)
+    if (m_window && !m_captured) {
         ::SetCapture(m_window);
+        m_captured = GetCapture() == m_window;
+    }
 }
 
 // While a button pressed on the window is held the capture stays, so that the release reaches
@@ -333,10 +340,10 @@ void WindowSurface::Refresh()
         root->m_owner->OnViewChanged();
 }
 
+// An image for the screen: no device context of the window is needed to make it.
 std::unique_ptr<Canvas> WindowSurface::CreateCanvas(int32_t width, int32_t height)
 {
-    WindowDc dc(m_window);
-    return std::make_unique<GdiCanvas>(dc.Get(), width, height);
+    return std::make_unique<GdiCanvas>(nullptr, width, height);
 }
 
 void WindowSurface::Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height)
@@ -429,8 +436,10 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         return 0;
     case WM_CAPTURECHANGED:
         // A modal loop took the mouse: the buttons' releases will not come here.
-        if (reinterpret_cast<HWND>(lParam) != window)
+        if (reinterpret_cast<HWND>(lParam) != window) {
             m_buttonsDown = 0;
+            m_captured = false;
+        }
         return 0;
     case WM_KEYDOWN:
     case WM_KEYUP: {
@@ -455,6 +464,7 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         return code;
     }
     case WM_SETFOCUS: {
+        m_focused = true;
         const std::weak_ptr<int> alive = m_lifetime;
         if (m_owner)
             m_owner->OnSurfaceFocus(true);
@@ -463,6 +473,7 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         return 0;
     }
     case WM_KILLFOCUS: {
+        m_focused = false;
         const std::weak_ptr<int> alive = m_lifetime;
         if (SurfaceListener* listener = Listener())
             listener->OnLostFocus();
@@ -511,7 +522,7 @@ void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPA
 {
     const float x = InputState::PixelsToTwips(GET_X_LPARAM(lParam));
     const float y = InputState::PixelsToTwips(GET_Y_LPARAM(lParam));
-    const int16_t shift = InputState::ShiftKeys();
+    const int16_t shift = InputState::ShiftKeys(wParam);
     const int16_t button = InputState::ButtonOf(message);
     const std::weak_ptr<int> alive = m_lifetime;
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/window/alt_key_state.h"
 #include "platform/win32/windowless/windowless_surface.h"
 #include "platform/win32/windows_api.h"
 #include <memory>
@@ -110,6 +111,7 @@ private:
     void EndRedirectTree();
 
     IUnknown* m_keepAlive = nullptr;
+    AltKeyState m_altKey; // followed while the surface lives, for its mouse events
     WindowSurface* m_parent = nullptr;
     std::vector<WindowSurface*> m_children;
     Owner* m_owner = nullptr;
@@ -117,6 +119,8 @@ private:
     Target m_target;
     bool m_canGetFocus = true;
     bool m_moving = false;
+    bool m_focused = false; // between WM_SETFOCUS and WM_KILLFOCUS
+    bool m_captured = false; // from SetCapture until WM_CAPTURECHANGED
     int16_t m_buttonsDown = 0;
     // Expires when the surface is destroyed, so that a message handler can tell that a listener
     // destroyed it.
