@@ -13,4 +13,10 @@ using StringView = std::u16string_view;
 std::string ToUtf8(StringView text);
 String FromUtf8(std::string_view text);
 
+// The capital of a letter a to z; any other character as it is. Access keys compare this way.
+constexpr char16_t UpperCase(char16_t c)
+{
+    return c >= u'a' && c <= u'z' ? char16_t(c - 32) : c;
+}
+
 } // namespace tolva

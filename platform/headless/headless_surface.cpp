@@ -12,11 +12,6 @@ int32_t Pixels(float twips)
     return int32_t(std::lround(twips / SurfaceProperties::TwipsPerPixel));
 }
 
-char16_t Upper(char16_t c)
-{
-    return c >= u'a' && c <= u'z' ? char16_t(c - 32) : c;
-}
-
 } // namespace
 
 HeadlessSurface::HeadlessSurface(WindowTree& tree, HeadlessSurface* parent)
@@ -165,7 +160,8 @@ int16_t HeadlessSurface::KeyUp(int16_t keyCode, int16_t shift)
 bool HeadlessSurface::AccessKey(char16_t key)
 {
     const String keys = AccessKeys();
-    const bool listed = std::any_of(keys.begin(), keys.end(), [key](char16_t k) { return Upper(k) == Upper(key); });
+    const bool listed
+        = std::any_of(keys.begin(), keys.end(), [key](char16_t k) { return UpperCase(k) == UpperCase(key); });
     if (!listed || !AcceptsInput())
         return false;
     if (m_listener)

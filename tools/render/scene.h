@@ -19,6 +19,7 @@ struct Scene {
 std::vector<Scene> CommandScenes();
 std::vector<Scene> LabelScenes();
 std::vector<Scene> ScrollScenes();
+std::vector<Scene> TabsScenes();
 std::vector<Scene> AllScenes();
 
 } // namespace tolva::render
