@@ -7,9 +7,11 @@ namespace tolva::win32 {
 extern const ControlClass TolvaCommandClass;
 extern const ControlClass TolvaLabelClass;
 extern const ControlClass TolvaScrollClass;
+extern const ControlClass TolvaTabsClass;
 
 namespace {
-const std::array<const ControlClass*, 3> Classes = { &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass };
+const std::array<const ControlClass*, 4> Classes
+    = { &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass, &TolvaTabsClass };
 }
 
 std::span<const ControlClass* const> ControlClasses()

@@ -31,4 +31,15 @@ protected:
     EventRaiser& m_raiser;
 };
 
+// The events of a control that takes keys: Click 1, DblClick 2, KeyDown 3, KeyPress 4, KeyUp 5,
+// MouseDown 6, MouseMove 7, MouseUp 8.
+template <class Events> class KeyAndMouseEventForwarder : public MouseEventForwarder<Events, 6> {
+public:
+    using MouseEventForwarder<Events, 6>::MouseEventForwarder;
+
+    void KeyDown(int16_t& keyCode, int16_t& shift) override { this->m_raiser.RaiseByReference(3, keyCode, shift); }
+    void KeyPress(int16_t& keyAscii) override { this->m_raiser.RaiseByReference(4, keyAscii); }
+    void KeyUp(int16_t& keyCode, int16_t& shift) override { this->m_raiser.RaiseByReference(5, keyCode, shift); }
+};
+
 } // namespace tolva::win32

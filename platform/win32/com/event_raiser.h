@@ -22,6 +22,18 @@ public:
         Raise(id, values);
     }
 
+    // Raises an event whose one argument is a Boolean by reference (VT_BYREF | VT_BOOL), and
+    // carries back what the sinks left in it: anything but 0 is true, as the languages test it.
+    void RaiseBooleanByReference(DISPID id, bool& value)
+    {
+        VARIANT_BOOL flag = value ? VARIANT_TRUE : VARIANT_FALSE;
+        VARIANT argument;
+        V_VT(&argument) = VT_BYREF | VT_BOOL;
+        V_BOOLREF(&argument) = &flag;
+        Raise(id, std::span<VARIANT>(&argument, 1));
+        value = flag != VARIANT_FALSE;
+    }
+
 protected:
     ~EventRaiser() = default;
 

@@ -23,11 +23,6 @@ float ToTwips(LONG pixels)
     return float(pixels) * float(SurfaceProperties::TwipsPerPixel);
 }
 
-char16_t Upper(char16_t c)
-{
-    return c >= u'a' && c <= u'z' ? char16_t(c - 32) : c;
-}
-
 void FillWithColor(HDC dc, const RECT& rect, OleColor color)
 {
     const COLORREF rgb = IsSystemColor(color) ? GetSysColor(SystemColorIndex(color)) : COLORREF(color & 0xFFFFFF);
@@ -168,7 +163,7 @@ void WindowSurface::TakeFocus()
 bool WindowSurface::HasAccessKey(char16_t key) const
 {
     const String keys = AccessKeys();
-    return std::any_of(keys.begin(), keys.end(), [key](char16_t k) { return Upper(k) == Upper(key); });
+    return std::any_of(keys.begin(), keys.end(), [key](char16_t k) { return UpperCase(k) == UpperCase(key); });
 }
 
 bool WindowSurface::AcceptsInput() const

@@ -24,6 +24,17 @@ HRESULT Put(IDispatch* object, const wchar_t* name, const VARIANT& value, WORD f
     return object->Invoke(IdOf(object, name), IID_NULL, LOCALE_USER_DEFAULT, flags, &params, nullptr, nullptr, nullptr);
 }
 
+HRESULT PutAt(IDispatch* object, const wchar_t* name, std::initializer_list<VARIANT> indexes, const VARIANT& value,
+    EXCEPINFO* exception)
+{
+    std::vector<VARIANT> arguments { value }; // DISPPARAMS holds the value first, then the last index
+    arguments.insert(arguments.end(), std::rbegin(indexes), std::rend(indexes));
+    DISPID named = DISPID_PROPERTYPUT;
+    DISPPARAMS params = { arguments.data(), &named, UINT(arguments.size()), 1 };
+    return object->Invoke(
+        IdOf(object, name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &params, nullptr, exception, nullptr);
+}
+
 HRESULT Call(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, OleVariant& result,
     EXCEPINFO* exception, UINT* argumentError)
 {

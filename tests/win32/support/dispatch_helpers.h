@@ -10,6 +10,9 @@ namespace tolva::win32::test {
 DISPID IdOf(IDispatch* object, const wchar_t* name);
 HRESULT Get(IDispatch* object, const wchar_t* name, OleVariant& result);
 HRESULT Put(IDispatch* object, const wchar_t* name, const VARIANT& value, WORD flags = DISPATCH_PROPERTYPUT);
+// An indexed property assignment: name(indexes...) = value.
+HRESULT PutAt(IDispatch* object, const wchar_t* name, std::initializer_list<VARIANT> indexes, const VARIANT& value,
+    EXCEPINFO* exception = nullptr);
 HRESULT Call(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, OleVariant& result,
     EXCEPINFO* exception = nullptr, UINT* argumentError = nullptr);
 

@@ -5,6 +5,7 @@
 namespace tolva::win32 {
 extern const ControlClass TolvaLabelClass;
 extern const ControlClass TolvaScrollClass;
+extern const ControlClass TolvaTabsClass;
 }
 
 namespace tolva::win32::test {

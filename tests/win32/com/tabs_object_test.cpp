@@ -1,0 +1,199 @@
+// TolvaTabs through IDispatch, its connection point and its persistence interfaces, without a
+// container: indexed members, Change and its rCancel by reference, run-time errors for indexes
+// outside the arrays, and the tab arrays in a property bag and a stream.
+#include "controls/tabs/tolva_tabs.h"
+#include "platform/win32/com/bstr.h"
+#include "tests/win32/support/dispatch_helpers.h"
+#include "tests/win32/support/event_sink.h"
+#include "tests/win32/support/hosted_object.h"
+#include "tests/win32/support/recording_property_bag.h"
+#include <gtest/gtest.h>
+
+namespace tolva::win32::test {
+namespace {
+
+constexpr DISPID MouseDownId = 6, ChangeId = 9;
+constexpr HRESULT SubscriptError = HRESULT(0x800A0009);
+
+using Tabs = HostedObject<TolvaTabs>;
+
+class TabsObject : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_NE(Advise(tabs.Unknown(), *TolvaTabsClass.eventIid, sink.Get()), 0u); }
+
+    HRESULT Method(const wchar_t* name, const VARIANT& argument)
+    {
+        OleVariant result;
+        return Call(d, IdOf(d, name), DISPATCH_METHOD, { argument }, result);
+    }
+    HRESULT GetAt(const wchar_t* name, LONG index, OleVariant& result, EXCEPINFO* exception = nullptr)
+    {
+        return Call(d, IdOf(d, name), DISPATCH_PROPERTYGET, { Long(index) }, result, exception);
+    }
+    std::wstring Caption(LONG index)
+    {
+        OleVariant caption;
+        EXPECT_EQ(GetAt(L"Tabs", index, caption), S_OK);
+        return AsText(caption);
+    }
+    void AddTabs(std::initializer_list<const wchar_t*> captions)
+    {
+        for (const wchar_t* caption : captions)
+            ASSERT_EQ(Method(L"AddItem", Text(caption)), S_OK);
+    }
+    LONG Read(const wchar_t* name)
+    {
+        OleVariant value;
+        EXPECT_EQ(Get(d, name, value), S_OK);
+        return AsLong(value);
+    }
+
+    Tabs tabs { TolvaTabsClass };
+    IDispatch* d = tabs.Dispatch();
+    ComPtr<EventSink> sink = ComPtr<EventSink>::Adopt(new EventSink(*TolvaTabsClass.eventIid));
+};
+
+TEST_F(TabsObject, DispatchIdsFollowTheLibrarysNumbering)
+{
+    const std::pair<const wchar_t*, DISPID> ids[] = {
+        { L"BackColor", 0x68030000 },
+        { L"ForeColor", 0x68030001 },
+        { L"Enabled", 0x68030002 },
+        { L"Font", 0x68030003 },
+        { L"BorderColor", 0x68030004 },
+        { L"TabCount", 0x68030005 },
+        { L"Tabs", 0x68030006 },
+        { L"SelectedItem", 0x68030007 },
+        { L"TabData", 0x68030008 },
+        { L"BackColorInactive", 0x68030009 },
+        { L"BackColorBehind", 0x6803000A },
+        { L"TabWidth", 0x6803000B },
+        { L"Clear", 0x60030010 },
+        { L"Refresh", 0x60030011 },
+        { L"AddItem", 0x60030012 },
+        { L"RemoveItem", 0x60030013 },
+        { L"AboutBox", -552 },
+    };
+    for (auto [name, id] : ids)
+        EXPECT_EQ(IdOf(d, name), id) << ToUtf8(ViewOf(name));
+}
+
+TEST_F(TabsObject, IndexedMembersTakeTheirIndexBeforeTheValue)
+{
+    AddTabs({ L"One", L"Two", L"Three" });
+    EXPECT_EQ(Read(L"TabCount"), 3);
+    ASSERT_EQ(PutAt(d, L"Tabs", { Long(1) }, Text(L"&Uno")), S_OK);
+    ASSERT_EQ(PutAt(d, L"TabData", { Short(3) }, Long(42)), S_OK);
+    ASSERT_EQ(Method(L"RemoveItem", Text(L"2")), S_OK); // as the languages coerce
+    EXPECT_EQ(Caption(1), L"&Uno");
+    EXPECT_EQ(Caption(2), L"Three");
+    OleVariant data;
+    ASSERT_EQ(GetAt(L"TabData", 2, data), S_OK);
+    EXPECT_EQ(AsLong(data), 42);
+    EXPECT_EQ(tabs.Object().ControlSurface().AccessKeys(), u"U");
+}
+
+TEST_F(TabsObject, AnIndexOutsideTheArraysIsTheSubscriptError)
+{
+    AddTabs({ L"One" });
+    OleVariant result;
+    EXCEPINFO exception {};
+    ASSERT_EQ(GetAt(L"Tabs", 2, result, &exception), DISP_E_EXCEPTION);
+    EXPECT_EQ(exception.scode, SubscriptError);
+    EXPECT_EQ(FromBstr(exception.bstrDescription), u"Subscript out of range");
+    SysFreeString(exception.bstrSource);
+    SysFreeString(exception.bstrDescription);
+    SysFreeString(exception.bstrHelpFile);
+    // Without an EXCEPINFO the error comes back as the HRESULT itself.
+    for (HRESULT hr : { PutAt(d, L"Tabs", { Long(-1) }, Text(L"x")), PutAt(d, L"TabData", { Long(9) }, Long(1)),
+             GetAt(L"TabData", 70000, result), Method(L"RemoveItem", Long(-5)) })
+        EXPECT_EQ(hr, SubscriptError);
+    EXPECT_EQ(Read(L"TabCount"), 1);
+}
+
+TEST_F(TabsObject, ChangeCarriesRCancelByReferenceAndASinkThatSetsItCancels)
+{
+    AddTabs({ L"One", L"Two" });
+    ASSERT_EQ(Put(d, L"SelectedItem", Long(1)), S_OK);
+    std::vector<LONG> seen;
+    sink->OnEvent([&](DISPID id, const std::vector<VARIANT*>& arguments) {
+        if (id != ChangeId)
+            return;
+        seen.push_back(tabs.Core().SelectedItem());
+        *V_BOOLREF(arguments[0]) = 1; // any value but 0 is true
+    });
+    ASSERT_EQ(Put(d, L"SelectedItem", Long(2)), S_OK);
+    EXPECT_EQ(Read(L"SelectedItem"), 1);
+    EXPECT_EQ(seen, (std::vector<LONG> { 2 }));
+    ASSERT_EQ(sink->Events().size(), 2u);
+    EXPECT_EQ(sink->Events()[1].types, (std::vector<VARTYPE> { VT_BYREF | VT_BOOL }));
+
+    sink->OnEvent(nullptr);
+    tabs.Input().OnMouseDown(1, 0, 1800, 60);
+    EXPECT_EQ(Read(L"SelectedItem"), 2);
+    EXPECT_EQ(sink->Ids(), (std::vector<DISPID> { ChangeId, ChangeId, ChangeId, MouseDownId }));
+}
+
+// Persistence.
+
+const std::vector<std::wstring> KeyOrder = { L"BackColor", L"ForeColor", L"Enabled", L"TabsCount", L"Tabs1", L"Tabs2",
+    L"BorderColor", L"TabCount", L"SelectedItem", L"TabDataCount", L"TabData1", L"TabData2", L"BackColorInactive",
+    L"BackColorBehind", L"TabWidth", L"Font" };
+
+TEST_F(TabsObject, TheTabArraysTravelThroughABagAndAStream)
+{
+    AddTabs({ L"&General", L"" });
+    PutAt(d, L"TabData", { Long(2) }, Long(-7));
+    Put(d, L"SelectedItem", Long(2));
+    Put(d, L"BorderColor", Long(0x102030));
+    Put(d, L"ForeColor", Long(0x0000FF));
+    Put(d, L"TabWidth", Long(1200));
+    auto bag = ComPtr<RecordingPropertyBag>::Adopt(new RecordingPropertyBag);
+    ASSERT_EQ(tabs.As<IPersistPropertyBag>(IID_IPersistPropertyBag)->Save(bag.Get(), TRUE, TRUE), S_OK);
+    std::vector<std::wstring> written = KeyOrder;
+    std::erase_if(written, [](const std::wstring& key) {
+        return key == L"BackColor" || key == L"Enabled" || key == L"BackColorInactive" || key == L"BackColorBehind"
+            || key == L"Font";
+    });
+    EXPECT_EQ(bag->Writes(), written);
+    EXPECT_EQ(V_VT(bag->Find(L"Tabs2")), VT_BSTR) << "an empty caption is saved";
+    EXPECT_EQ(V_VT(bag->Find(L"TabData1")), VT_I4) << "so is a zero";
+
+    Tabs loaded { TolvaTabsClass };
+    ASSERT_EQ(loaded.As<IPersistPropertyBag>(IID_IPersistPropertyBag)->Load(bag.Get(), nullptr), S_OK);
+    EXPECT_EQ(bag->Reads(), KeyOrder);
+
+    Tabs streamed { TolvaTabsClass };
+    ComPtr<IStream> stream;
+    ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, stream.Put()), S_OK);
+    ASSERT_EQ(tabs.As<IPersistStreamInit>(IID_IPersistStreamInit)->Save(stream.Get(), TRUE), S_OK);
+    stream->Seek(LARGE_INTEGER {}, STREAM_SEEK_SET, nullptr);
+    ASSERT_EQ(streamed.As<IPersistStreamInit>(IID_IPersistStreamInit)->Load(stream.Get()), S_OK);
+
+    for (const TolvaTabs* copy : { &loaded.Core(), &streamed.Core() }) {
+        EXPECT_EQ(copy->TabCount(), 2);
+        EXPECT_EQ(copy->Tabs(1), u"&General");
+        EXPECT_EQ(copy->Tabs(2), u"");
+        EXPECT_EQ(copy->TabData(2), -7);
+        EXPECT_EQ(copy->SelectedItem(), 2);
+        EXPECT_EQ(copy->BorderColor(), 0x102030u);
+        EXPECT_EQ(copy->ForeColor(), 0x0000FFu);
+        EXPECT_EQ(copy->TabWidth(), 1200);
+    }
+}
+
+TEST_F(TabsObject, ABagWithArraysItCannotHoldLeavesItAsItWas)
+{
+    AddTabs({ L"Kept" });
+    for (LONG count : { -1L, 2000000000L }) {
+        auto bag = ComPtr<RecordingPropertyBag>::Adopt(new RecordingPropertyBag);
+        bag->Put(L"TabsCount", Long(count));
+        bag->Put(L"TabCount", Long(5));
+        EXPECT_TRUE(FAILED(tabs.As<IPersistPropertyBag>(IID_IPersistPropertyBag)->Load(bag.Get(), nullptr)));
+    }
+    EXPECT_EQ(Read(L"TabCount"), 1);
+    EXPECT_EQ(Caption(1), L"Kept");
+}
+
+} // namespace
+} // namespace tolva::win32::test
