@@ -33,4 +33,20 @@ void HoverRepaint(benchmark::State& state, StringView extenderName, const Pose& 
     state.counters["pixels"] = double(state.range(0) * state.range(1));
 }
 
+// The floor of any repaint: one copy of a finished image of state.range(0) x state.range(1)
+// pixels to the window, as a control's paint ends.
+inline void OneBlit(benchmark::State& state)
+{
+    const auto width = int32_t(state.range(0)), height = int32_t(state.range(1));
+    headless::WindowTree tree;
+    headless::HeadlessSurface surface { tree };
+    surface.Resize(float(width * 15), float(height * 15));
+    const std::unique_ptr<Canvas> image = surface.CreateCanvas(width, height);
+    image->FillRect(0, 0, width, height, 0xCEDBDE);
+    for (auto _ : state)
+        surface.Present(*image, 0, 0, width, height);
+    state.SetItemsProcessed(state.iterations());
+    state.counters["pixels"] = double(width) * height;
+}
+
 } // namespace tolva::bench
