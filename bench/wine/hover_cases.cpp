@@ -43,6 +43,15 @@ void AtlControl::Put(const wchar_t* property, VARIANT value)
         DISPATCH_PROPERTYPUT, { &owned.Get(), 1 }, ignored);
 }
 
+void AtlControl::Call(const wchar_t* method, VARIANT argument)
+{
+    win32::OleVariant owned;
+    *owned.Put() = argument;
+    win32::OleVariant ignored;
+    win32::DispatchCall::Invoke(m_dispatch.Get(), win32::DispatchCall::IdOf(m_dispatch.Get(), method), DISPATCH_METHOD,
+        { &owned.Get(), 1 }, ignored);
+}
+
 VARIANT Text(const wchar_t* text)
 {
     VARIANT value;
@@ -84,7 +93,17 @@ std::vector<HoverCase> HoverCases()
             Own },
         // The bar itself repaints nothing on a move: the pointer goes over its up arrow.
         { L"TolvaScroll, over its up arrow", L"TolvaKit.TolvaScroll", [](AtlControl&) {},
-            [](const AtlControl& c) { return ChildWindowFromPoint(c.Window(), POINT { 4, 4 }); } },
+            [](const AtlControl& c) {
+                return ChildWindowFromPoint(c.Window(), POINT { 4, 4 });
+            } },
+        // The tab strip has no hover look: a move is only passed on.
+        { L"TolvaTabs, three tabs", L"TolvaKit.TolvaTabs",
+            [](AtlControl& c) {
+                for (const wchar_t* caption : { L"&General", L"&Accounts", L"&Reports" })
+                    c.Call(L"AddItem", Text(caption));
+                c.Put(L"SelectedItem", Long(1));
+            },
+            Own },
     };
 }
 

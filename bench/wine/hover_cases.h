@@ -19,6 +19,7 @@ public:
 
     HWND Window() const { return m_window; } // the control's own, inside the container
     void Put(const wchar_t* property, VARIANT value);
+    void Call(const wchar_t* method, VARIANT argument);
 
 private:
     HWND m_container = nullptr;
