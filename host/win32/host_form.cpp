@@ -434,8 +434,9 @@ LRESULT HostForm::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
                 ClickMenu(*item);
         return 0;
     case WM_SETFOCUS: {
-        // The form passes the focus on to the control that had it, or to the first one.
-        FormControl* target = m_uiActive;
+        // The form passes the focus on to the control that had it, or to the first one. A control
+        // hidden or disabled since it had it is passed over: activating it would show it again.
+        FormControl* target = m_uiActive && m_uiActive->TakesFocus() ? m_uiActive : nullptr;
         if (!target) {
             const std::vector<FormControl*> order = TabOrder();
             target = order.empty() ? nullptr : order.front();

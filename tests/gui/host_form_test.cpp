@@ -154,6 +154,14 @@ TEST_F(HostFormTest, TabMovesTheFocusInTabOrder)
     EXPECT_EQ(GetFocus(), hosted.Window(u"cmdFirst"));
 }
 
+TEST_F(HostFormTest, AHiddenControlThatHadTheFocusStaysHiddenWhenTheFormGetsItBack)
+{
+    SetFocus(hosted.Window(u"cmdOK"));
+    ASSERT_EQ(test::Put(hosted.Control(u"cmdOK").Extender(), L"Visible", test::Bool(false)), S_OK);
+    SetFocus(hosted.Form().Window());
+    EXPECT_FALSE(IsWindowVisible(hosted.Window(u"cmdOK")));
+}
+
 TEST_F(HostFormTest, TheMenuButtonOpensItsMenuAtItsBottomLeftCorner)
 {
     RECT button;
