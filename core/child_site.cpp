@@ -61,4 +61,9 @@ void ChildSite::ShowAboutBox()
     m_container.ShowAboutBox();
 }
 
+Formatter& ChildSite::Formatting()
+{
+    return m_container.Formatting();
+}
+
 } // namespace tolva

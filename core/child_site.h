@@ -6,9 +6,9 @@ namespace tolva {
 
 // The site a control gives the controls it embeds on its own surface. The embedding control is
 // their designer, so their PropertyChanged calls go nowhere; ambients and the modal services are
-// the embedding control's own; the extender is the child window itself. Their parent is the
-// embedding control, not a form: it has no menus to pop up, so an embedded control's click never
-// reaches the host's form.
+// the embedding control's own, and so is formatting; the extender is the child window itself.
+// Their parent is the embedding control, not a form: it has no menus to pop up, so an embedded
+// control's click never reaches the host's form.
 class ChildSite final : public ControlSite {
 public:
     ChildSite(ControlSite& container, const Surface& child, String name);
@@ -27,6 +27,7 @@ public:
     int MessageBox(StringView prompt, int style) override;
     void Beep() override;
     void ShowAboutBox() override;
+    Formatter& Formatting() override;
 
 private:
     ControlSite& m_container;

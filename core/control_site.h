@@ -1,5 +1,6 @@
 #pragma once
 #include "core/font.h"
+#include "core/format/formatter.h"
 #include "core/surface.h"
 #include "core/string.h"
 #include <memory>
@@ -33,7 +34,7 @@ constexpr int Exclamation = 48;
 }
 
 // The host services a control uses: designer notifications, ambients, extender, parent form,
-// modal messages. Without a container the site answers with the defaults.
+// modal messages, formatting. Without a container the site answers with the defaults.
 class ControlSite {
 public:
     virtual ~ControlSite() = default;
@@ -54,6 +55,10 @@ public:
     virtual int MessageBox(StringView prompt, int style) = 0;
     virtual void Beep() = 0;
     virtual void ShowAboutBox() = 0; // modal; returns when it is closed
+
+    // The platform's formatting and parsing of values in the user's locale; lives as long as
+    // the site.
+    virtual Formatter& Formatting() = 0;
 };
 
 } // namespace tolva

@@ -1,14 +1,20 @@
 #pragma once
 #include "core/control_site.h"
+#include "core/format/portable_formatter.h"
 #include "platform/headless/test_parent_form.h"
 #include <vector>
 
 namespace tolva::headless {
 
 // A container for tests: answers with the values set in its members and records every call.
-// Without a parent form, Parent() is nullptr.
+// Without a parent form, Parent() is nullptr. Formatting is the portable en-US engine, whose
+// today is fixed (TestSite::Today) so that tests do not depend on the clock.
 class TestSite final : public ControlSite {
 public:
+    static OleDate Today() { return OleDate::FromYmd(2001, 2, 3); }
+
+    TestSite() { formatter.FixToday(Today()); }
+
     struct MessageBoxCall {
         String prompt;
         int style = 0;
@@ -26,6 +32,7 @@ public:
     int MessageBox(StringView prompt, int style) override;
     void Beep() override { ++beeps; }
     void ShowAboutBox() override { ++aboutBoxes; }
+    Formatter& Formatting() override { return formatter; }
 
     // Answers.
     Font ambientFont;
@@ -36,6 +43,7 @@ public:
     float extenderHeight = 0;
     TestParentForm* parent = nullptr;
     int messageBoxAnswer = 1; // OK
+    PortableFormatter formatter;
 
     // Records.
     std::vector<String> propertyChanges;

@@ -1,5 +1,6 @@
 #pragma once
 #include "core/control_site.h"
+#include "platform/win32/com/ole_formatter.h"
 #include "platform/win32/windows_api.h"
 #include <memory>
 #include <vector>
@@ -46,6 +47,7 @@ public:
     int MessageBox(StringView, int) override { return 1; }
     void Beep() override { }
     void ShowAboutBox() override { }
+    Formatter& Formatting() override { return formatter; }
 
     bool displayAsDefault = false;
     String extenderName = u"Command1";
@@ -53,6 +55,7 @@ public:
     float extenderHeight = 0;
     StubParentForm* parent = nullptr;
     std::vector<String> changes;
+    OleFormatter formatter;
 };
 
 } // namespace tolva::win32::test

@@ -1,6 +1,7 @@
 #pragma once
 #include "core/control_site.h"
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/com/ole_formatter.h"
 #include "platform/win32/windows_api.h"
 #include <functional>
 #include <memory>
@@ -15,7 +16,7 @@ class DispatchParentForm;
 // client site (a script's CreateObject) it answers with defaults: user mode, MS Sans Serif
 // 8.25, not the default button, the class's first instance name and the surface's size; message
 // and about boxes are then refused silently, since no window could own them and nothing modal
-// may block a script.
+// may block a script. Formatting is the system's, in the user's locale.
 class OleControlSite final : public ControlSite {
 public:
     // changed is called for PropertyChanged(key).
@@ -39,6 +40,7 @@ public:
     int MessageBox(StringView prompt, int style) override;
     void Beep() override;
     void ShowAboutBox() override;
+    Formatter& Formatting() override { return m_formatter; }
 
 private:
     // An ambient property or extender property, or nothing when the container lacks it.
@@ -51,6 +53,7 @@ private:
     std::function<void(StringView)> m_changed;
     ComPtr<IOleClientSite> m_clientSite;
     std::unique_ptr<DispatchParentForm> m_parent;
+    OleFormatter m_formatter;
 };
 
 } // namespace tolva::win32

@@ -1,11 +1,13 @@
 // What the control learns from its container through the client site: ambients, extender and
 // the parent form; and the defaults it uses without one.
+#include "core/automation_error.h"
 #include "platform/win32/com/font_conversion.h"
 #include "tests/win32/support/command_object.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/fake_client_site.h"
 #include "tests/win32/support/font_printing.h"
 #include <gtest/gtest.h>
+#include <cmath>
 #include <olectl.h>
 
 namespace tolva::win32::test {
@@ -46,6 +48,25 @@ TEST_F(ControlSiteTest, AmbientsComeFromTheSitesDispatchInterface)
     EXPECT_TRUE(Site().DisplayAsDefault());
     EXPECT_EQ(Site().AmbientFont(), tahoma);
     EXPECT_TRUE(Site().AmbientFont().Bold());
+}
+
+TEST_F(ControlSiteTest, FormattingIsTheSystemsInTheUsersLocale)
+{
+    Formatter& formatter = Site().Formatting();
+    EXPECT_EQ(formatter.Format(Variant(1234.5), u"Currency"), u"$1,234.50");
+    EXPECT_EQ(formatter.Format(Variant(OleDate(36892.5)), u"mm/dd/yyyy hh:nn"), u"01/01/2001 12:00");
+    EXPECT_EQ(formatter.TextToCurrency(u"($1,234.56)"), Currency::FromRaw(-12345600));
+    EXPECT_EQ(formatter.TextToDate(u"1/2/2003").Serial(), 37623);
+    EXPECT_TRUE(formatter.IsDate(u"February 3, 2001"));
+    EXPECT_FALSE(formatter.IsNumeric(u"12 apples"));
+    EXPECT_THROW(formatter.TextToCurrency(u"1e30"), AutomationError);
+
+    SYSTEMTIME now = {};
+    GetLocalTime(&now);
+    const OleDate today = formatter.Today();
+    EXPECT_EQ(today.Serial(), std::trunc(today.Serial()));
+    EXPECT_EQ(today.Year(), now.wYear);
+    EXPECT_EQ(today.Day(), now.wDay);
 }
 
 TEST_F(ControlSiteTest, AmbientsTheContainerLacksGiveTheDefaults)
