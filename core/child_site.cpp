@@ -66,4 +66,9 @@ Formatter& ChildSite::Formatting()
     return m_container.Formatting();
 }
 
+InputPopups& ChildSite::Popups()
+{
+    return m_container.Popups();
+}
+
 } // namespace tolva

@@ -28,6 +28,7 @@ public:
     void Beep() override;
     void ShowAboutBox() override;
     Formatter& Formatting() override;
+    InputPopups& Popups() override;
 
 private:
     ControlSite& m_container;

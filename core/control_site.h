@@ -8,6 +8,8 @@
 namespace tolva {
 
 // An object of the host that a control only passes back to it (a menu control of the form).
+class InputPopups;
+
 class HostObject {
 public:
     virtual ~HostObject() = default;
@@ -59,6 +61,9 @@ public:
     // The platform's formatting and parsing of values in the user's locale; lives as long as
     // the site.
     virtual Formatter& Formatting() = 0;
+
+    // The library's pop-up windows of this thread, shared by every control on it.
+    virtual InputPopups& Popups() = 0;
 };
 
 } // namespace tolva

@@ -4,7 +4,11 @@ namespace tolva {
 
 void UpdateHover(Surface& surface, MouseState& state, float x, float y)
 {
-    const bool inside = x >= 0 && x < surface.ScaleWidth() && y >= 0 && y < surface.ScaleHeight();
+    SetHover(surface, state, x >= 0 && x < surface.ScaleWidth() && y >= 0 && y < surface.ScaleHeight());
+}
+
+void SetHover(Surface& surface, MouseState& state, bool inside)
+{
     if (inside)
         surface.SetCapture();
     else

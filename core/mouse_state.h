@@ -13,5 +13,7 @@ struct MouseState {
 // The hover test of every mouse move: inside (right and bottom edges outside) takes the capture
 // again and sets hot; outside releases the capture and clears hot. The caller repaints.
 void UpdateHover(Surface& surface, MouseState& state, float x, float y);
+// The same for a control that decides itself whether the pointer is over its clickable part.
+void SetHover(Surface& surface, MouseState& state, bool inside);
 
 } // namespace tolva

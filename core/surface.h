@@ -4,6 +4,7 @@
 #include "core/ole_color.h"
 #include "core/rect.h"
 #include "core/string.h"
+#include "core/text_box.h"
 #include "core/timer.h"
 #include <cstdint>
 #include <memory>
@@ -19,6 +20,7 @@ public:
     virtual void OnPaint() {}
     virtual void OnResize() {}
     virtual void OnShow() {}
+    virtual void OnHide() {} // the host hid the control
     virtual void OnAmbientChanged(StringView /*name*/) {}
     virtual void OnClick() {}
     virtual void OnDblClick() {}
@@ -83,14 +85,17 @@ public:
     virtual void SetCapture() = 0;
     virtual void ReleaseCapture() = 0; // releases the capture whoever holds it
     virtual PixelPoint ScreenOrigin() const = 0; // client (0, 0) in screen pixels
+    virtual PixelPoint ScreenSize() const = 0; // the screen's width and height in pixels
     virtual void Refresh() = 0; // asks the platform to repaint; OnPaint follows
 
     // Drawing: an off-screen canvas compatible with this window, then copied onto it.
     virtual std::unique_ptr<Canvas> CreateCanvas(int32_t width, int32_t height) = 0;
     virtual void Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height) = 0;
 
-    // Parts owned by the control: child windows for embedded controls, and timers.
+    // Parts owned by the control: child windows for embedded controls, the platform's own
+    // single-line text box, and timers.
     virtual std::unique_ptr<Surface> CreateChild() = 0;
+    virtual std::unique_ptr<TextBox> CreateTextBox() = 0;
     virtual std::unique_ptr<Timer> CreateTimer() = 0;
 };
 

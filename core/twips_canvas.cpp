@@ -75,9 +75,9 @@ float TwipsCanvas::TextHeight(StringView text)
     return float(m_image->MeasureText(text, PixelFont()).height * m_surface.TwipsPerPixelY());
 }
 
-void TwipsCanvas::CopyToSurface()
+void TwipsCanvas::CopyToSurface(float x, float y)
 {
-    m_surface.Present(*m_image, 0, 0, m_image->Width(), m_image->Height());
+    m_surface.Present(*m_image, ToPixelX(x), ToPixelY(y), m_image->Width(), m_image->Height());
 }
 
 namespace {

@@ -44,8 +44,8 @@ public:
     float TextWidth(StringView text);
     float TextHeight(StringView text);
 
-    // Copies the image to the surface at (0, 0), at its own size.
-    void CopyToSurface();
+    // Copies the image to the surface with its top-left corner at (x, y), at its own size.
+    void CopyToSurface(float x = 0, float y = 0);
     Canvas& Image() { return *m_image; }
 
 private:

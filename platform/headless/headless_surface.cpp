@@ -1,4 +1,5 @@
 #include "platform/headless/headless_surface.h"
+#include "platform/headless/headless_text_box.h"
 #include "platform/headless/virtual_timer.h"
 #include <algorithm>
 #include <cmath>
@@ -90,6 +91,11 @@ void HeadlessSurface::Present(const Canvas& image, int32_t x, int32_t y, int32_t
 std::unique_ptr<Surface> HeadlessSurface::CreateChild()
 {
     return std::make_unique<HeadlessSurface>(m_tree, this);
+}
+
+std::unique_ptr<TextBox> HeadlessSurface::CreateTextBox()
+{
+    return std::make_unique<HeadlessTextBox>(*this);
 }
 
 std::unique_ptr<Timer> HeadlessSurface::CreateTimer()
@@ -199,6 +205,12 @@ void HeadlessSurface::Show()
 {
     if (m_listener)
         m_listener->OnShow();
+}
+
+void HeadlessSurface::Hide()
+{
+    if (m_listener)
+        m_listener->OnHide();
 }
 
 } // namespace tolva::headless

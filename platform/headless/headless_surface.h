@@ -30,10 +30,12 @@ public:
     void SetCapture() override { m_tree.SetCapture(this); }
     void ReleaseCapture() override { m_tree.ReleaseCapture(); }
     PixelPoint ScreenOrigin() const override;
+    PixelPoint ScreenSize() const override { return m_tree.ScreenSize(); }
     void Refresh() override;
     std::unique_ptr<Canvas> CreateCanvas(int32_t width, int32_t height) override;
     void Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height) override;
     std::unique_ptr<Surface> CreateChild() override;
+    std::unique_ptr<TextBox> CreateTextBox() override; // a HeadlessTextBox
     std::unique_ptr<Timer> CreateTimer() override;
 
     // Inspection.
@@ -74,6 +76,7 @@ public:
     void Paint();
     void AmbientChanged(StringView name);
     void Show();
+    void Hide();
 
 private:
     void ResizeWindowImage();

@@ -1,6 +1,7 @@
 #pragma once
 #include "core/control_site.h"
 #include "core/format/portable_formatter.h"
+#include "core/input_popups.h"
 #include "platform/headless/test_parent_form.h"
 #include <vector>
 
@@ -32,7 +33,8 @@ public:
     int MessageBox(StringView prompt, int style) override;
     void Beep() override { ++beeps; }
     void ShowAboutBox() override { ++aboutBoxes; }
-    Formatter& Formatting() override { return formatter; }
+    Formatter& Formatting() override { return formatting ? *formatting : formatter; }
+    InputPopups& Popups() override { return popups ? *popups : m_noPopups; }
 
     // Answers.
     Font ambientFont;
@@ -44,12 +46,18 @@ public:
     TestParentForm* parent = nullptr;
     int messageBoxAnswer = 1; // OK
     PortableFormatter formatter;
+    Formatter* formatting = nullptr; // answers instead of the engine when set (a test's double)
+    InputPopups* popups = nullptr; // the thread's pop-ups; none without
 
     // Records.
     std::vector<String> propertyChanges;
     std::vector<MessageBoxCall> messageBoxes;
     int beeps = 0;
     int aboutBoxes = 0;
+
+private:
+    NoPopups m_noFactory;
+    InputPopups m_noPopups { m_noFactory };
 };
 
 } // namespace tolva::headless

@@ -1,4 +1,6 @@
 #pragma once
+#include "core/string.h"
+#include "core/surface.h"
 #include "platform/headless/virtual_clock.h"
 
 namespace tolva::headless {
@@ -17,6 +19,10 @@ public:
     HeadlessSurface* Focus() const { return m_focus; }
     HeadlessSurface* Capture() const { return m_capture; }
     VirtualClock& Clock() { return m_clock; }
+    // The screen the windows are on, in pixels (1024 x 768 unless set), and its clipboard text.
+    PixelPoint ScreenSize() const { return m_screenSize; }
+    void SetScreenSize(PixelPoint size) { m_screenSize = size; }
+    String& Clipboard() { return m_clipboard; }
 
     // Moves the keyboard focus: the surface that had it is told LostFocus, then the new one
     // GotFocus. nullptr takes the focus out of the tree (to another application).
@@ -31,6 +37,8 @@ private:
     HeadlessSurface* m_focus = nullptr;
     HeadlessSurface* m_capture = nullptr;
     VirtualClock m_clock;
+    PixelPoint m_screenSize { 1024, 768 };
+    String m_clipboard;
 };
 
 } // namespace tolva::headless

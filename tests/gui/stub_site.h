@@ -1,6 +1,7 @@
 #pragma once
 #include "core/control_site.h"
 #include "platform/win32/com/ole_formatter.h"
+#include "platform/win32/window/thread_popups.h"
 #include "platform/win32/windows_api.h"
 #include <memory>
 #include <vector>
@@ -48,6 +49,7 @@ public:
     void Beep() override { }
     void ShowAboutBox() override { }
     Formatter& Formatting() override { return formatter; }
+    InputPopups& Popups() override { return ThreadPopups(); }
 
     bool displayAsDefault = false;
     String extenderName = u"Command1";

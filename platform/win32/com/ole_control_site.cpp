@@ -5,6 +5,7 @@
 #include "platform/win32/com/dispatch_parent_form.h"
 #include "platform/win32/com/font_conversion.h"
 #include "platform/win32/window/about_box.h"
+#include "platform/win32/window/thread_popups.h"
 #include <olectl.h>
 
 namespace tolva::win32 {
@@ -166,6 +167,11 @@ void OleControlSite::ShowAboutBox()
 {
     if (HWND owner = OwnerWindow())
         win32::ShowAboutBox(owner);
+}
+
+InputPopups& OleControlSite::Popups()
+{
+    return ThreadPopups();
 }
 
 } // namespace tolva::win32

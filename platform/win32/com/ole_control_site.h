@@ -41,6 +41,7 @@ public:
     void Beep() override;
     void ShowAboutBox() override;
     Formatter& Formatting() override { return m_formatter; }
+    InputPopups& Popups() override;
 
 private:
     // An ambient property or extender property, or nothing when the container lacks it.
