@@ -73,6 +73,13 @@ void TextBoxModel::SetFont(const Font& font)
     LookChanged();
 }
 
+void TextBoxModel::Restore(String text, int32_t selStart, int32_t selLength)
+{
+    m_text = std::move(text);
+    m_anchor = std::clamp(selStart, 0, int32_t(m_text.size()));
+    m_caret = std::clamp(selStart + selLength, m_anchor, int32_t(m_text.size()));
+}
+
 void TextBoxModel::SetText(StringView text)
 {
     m_canUndo = false;

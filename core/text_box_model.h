@@ -55,6 +55,8 @@ protected:
     TextBoxListener* Listener() const { return m_listener; }
     // After anything that changes the look: the text, the selection, colours, font, enabled.
     virtual void LookChanged() { }
+    // Takes the state a real box reports, without notifying anyone.
+    void Restore(String text, int32_t selStart, int32_t selLength);
 
 private:
     // Replaces the selection with text as the user does: refused while Locked, cut to the room

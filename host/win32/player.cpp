@@ -25,7 +25,7 @@ struct NamedKey {
     WORD key;
 };
 
-constexpr std::array<NamedKey, 16> NamedKeys { {
+constexpr std::array<NamedKey, 19> NamedKeys { {
     { u"Enter", VK_RETURN },
     { u"Space", VK_SPACE },
     { u"Escape", VK_ESCAPE },
@@ -42,6 +42,9 @@ constexpr std::array<NamedKey, 16> NamedKeys { {
     { u"Control", VK_CONTROL },
     { u"Alt", VK_MENU },
     { u"F1", VK_F1 },
+    { u"F4", VK_F4 },
+    { u"Period", VK_OEM_PERIOD },
+    { u"Slash", VK_OEM_2 },
 } };
 
 // The virtual key of a key name: the names above, or one letter or digit; 0 for none.

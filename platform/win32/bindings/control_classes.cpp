@@ -8,10 +8,11 @@ extern const ControlClass TolvaCommandClass;
 extern const ControlClass TolvaLabelClass;
 extern const ControlClass TolvaScrollClass;
 extern const ControlClass TolvaTabsClass;
+extern const ControlClass TolvaInputClass;
 
 namespace {
-const std::array<const ControlClass*, 4> Classes
-    = { &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass, &TolvaTabsClass };
+const std::array<const ControlClass*, 5> Classes
+    = { &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass, &TolvaTabsClass, &TolvaInputClass };
 }
 
 std::span<const ControlClass* const> ControlClasses()

@@ -3,17 +3,18 @@
 
 namespace tolva::win32 {
 
-// The mouse events of a control as its dispinterface declares them: Click (1), DblClick (2),
-// and MouseDown, MouseMove and MouseUp at MouseDownId and the two ids after it, the arguments by
-// reference to the control's own variables. Events is the control's events interface.
-template <class Events, DISPID MouseDownId> class MouseEventForwarder : public Events {
+// The mouse events of a control as its dispinterface declares them: Click (ClickId), DblClick
+// (the id after it), and MouseDown, MouseMove and MouseUp at MouseDownId and the two ids after
+// it, the arguments by reference to the control's own variables. Events is the control's events
+// interface.
+template <class Events, DISPID MouseDownId, DISPID ClickId = 1> class MouseEventForwarder : public Events {
 public:
     explicit MouseEventForwarder(EventRaiser& raiser)
         : m_raiser(raiser)
     { }
 
-    void Click() override { m_raiser.RaiseByReference(1); }
-    void DblClick() override { m_raiser.RaiseByReference(2); }
+    void Click() override { m_raiser.RaiseByReference(ClickId); }
+    void DblClick() override { m_raiser.RaiseByReference(ClickId + 1); }
     void MouseDown(int16_t& button, int16_t& shift, float& x, float& y) override
     {
         m_raiser.RaiseByReference(MouseDownId, button, shift, x, y);

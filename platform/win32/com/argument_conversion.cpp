@@ -2,6 +2,7 @@
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_error.h"
 #include "platform/win32/com/ole_variant.h"
+#include <utility>
 
 namespace tolva::win32 {
 
@@ -143,6 +144,51 @@ bool IsMissing(const VARIANT& value)
 {
     const VARIANT* v = V_VT(&value) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(&value) : &value;
     return V_VT(v) == VT_ERROR && V_ERROR(v) == DISP_E_PARAMNOTFOUND;
+}
+
+void PutBack(const VARIANT& argument, const VARIANT& value)
+{
+    if (!(V_VT(&argument) & VT_BYREF))
+        return;
+    const VARTYPE type = VARTYPE(V_VT(&argument) & ~VT_BYREF);
+    if (type == VT_VARIANT) {
+        VariantCopy(V_VARIANTREF(&argument), const_cast<VARIANT*>(&value));
+        return;
+    }
+    OleVariant converted;
+    if (FAILED(VariantChangeType(converted.Put(), const_cast<VARIANT*>(&value), 0, type)))
+        return;
+    VARIANT& v = converted.Get();
+    switch (type) {
+    case VT_BSTR:
+        SysFreeString(*V_BSTRREF(&argument));
+        *V_BSTRREF(&argument) = std::exchange(V_BSTR(&v), nullptr);
+        V_VT(&v) = VT_EMPTY;
+        return;
+    case VT_CY:
+        *V_CYREF(&argument) = V_CY(&v);
+        return;
+    case VT_I2:
+        *V_I2REF(&argument) = V_I2(&v);
+        return;
+    case VT_I4:
+        *V_I4REF(&argument) = V_I4(&v);
+        return;
+    case VT_R4:
+        *V_R4REF(&argument) = V_R4(&v);
+        return;
+    case VT_R8:
+        *V_R8REF(&argument) = V_R8(&v);
+        return;
+    case VT_BOOL:
+        *V_BOOLREF(&argument) = V_BOOL(&v);
+        return;
+    case VT_DATE:
+        *V_DATEREF(&argument) = V_DATE(&v);
+        return;
+    default:
+        return;
+    }
 }
 
 } // namespace tolva::win32

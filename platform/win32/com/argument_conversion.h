@@ -40,4 +40,9 @@ void PutText(VARIANT& target, StringView value);
 // True for an omitted optional argument (VT_ERROR holding DISP_E_PARAMNOTFOUND).
 bool IsMissing(const VARIANT& value);
 
+// Stores value into the caller's variable behind a by-reference argument, converted to the
+// variable's type (a variant variable takes it as it is). An argument passed by value, or a
+// variable the value does not convert to, is left alone.
+void PutBack(const VARIANT& argument, const VARIANT& value);
+
 } // namespace tolva::win32

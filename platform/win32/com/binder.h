@@ -3,6 +3,8 @@
 #include "platform/win32/com/dispatch_arguments.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/ole_traits.h"
+#include "platform/win32/com/ole_variant.h"
+#include <algorithm>
 #include <functional>
 #include <tuple>
 #include <utility>
@@ -21,7 +23,9 @@ struct MemberFunction<R (C::*)(A...) const> : MemberFunction<R (C::*)(A...)> { }
 
 // Builds binding-table entries for the public members of a core control class. Types, argument
 // counts and conversions follow from the member functions' signatures; an enumeration names
-// its type with Enum(L"tk...").
+// its type with Enum(L"tk..."). A parameter taken by non-const reference is [in, out]: what the
+// control leaves in it goes back to the caller's variable. A method's last optionalCount
+// parameters may be left out; the control then gets the type's default value.
 template <class Control> class Binder {
 public:
     // A property read by Get and, unless it is read-only, assigned by Let. Extra parameters of
@@ -40,10 +44,13 @@ public:
         return member;
     }
 
-    template <auto Call> static DispatchMember Method(DISPID id, const wchar_t* name)
+    template <auto Call> static DispatchMember Method(DISPID id, const wchar_t* name, size_t optionalCount = 0)
     {
         DispatchMember member = Property<Call>(id, name);
         member.isMethod = true;
+        for (size_t i = member.parameters.size() - std::min(optionalCount, member.parameters.size());
+             i < member.parameters.size(); ++i)
+            member.parameters[i].optional = true;
         return member;
     }
 
@@ -55,8 +62,11 @@ private:
         return std::tuple_size_v<typename Signature<F>::Arguments>;
     }
 
+    template <auto F, size_t I> using DeclaredArgument = std::tuple_element_t<I, typename Signature<F>::Arguments>;
+    template <auto F, size_t I> using ArgumentType = std::remove_cvref_t<DeclaredArgument<F, I>>;
     template <auto F, size_t I>
-    using ArgumentType = std::remove_cvref_t<std::tuple_element_t<I, typename Signature<F>::Arguments>>;
+    static constexpr bool ByReference = std::is_lvalue_reference_v<DeclaredArgument<F, I>>
+        && !std::is_const_v<std::remove_reference_t<DeclaredArgument<F, I>>>;
 
     template <auto Get> static constexpr TypeSpec DefaultType()
     {
@@ -69,16 +79,36 @@ private:
 
     template <auto F, size_t... I> static std::vector<TypeSpec> ParameterTypes(std::index_sequence<I...>)
     {
-        return { TypeSpec { OleTraits<ArgumentType<F, I>>::Type }... };
+        return { TypeSpec { OleTraits<ArgumentType<F, I>>::Type, nullptr, ByReference<F, I> }... };
     }
 
-    // The index arguments of F converted from the positional arguments.
+    template <auto F, size_t I> using Converted = decltype(OleTraits<ArgumentType<F, I>>::From(std::declval<VARIANT>()));
+
+    // The index arguments of F converted from the positional arguments; one left out is the
+    // type's default.
     template <auto F, size_t... I>
     static auto ConvertArguments(const DispatchArguments& arguments, std::index_sequence<I...>)
     {
-        return std::tuple<decltype(OleTraits<ArgumentType<F, I>>::From(std::declval<VARIANT>()))...> {
-            arguments.Convert(I, &OleTraits<ArgumentType<F, I>>::From)...
-        };
+        return std::tuple<Converted<F, I>...> { (
+            arguments.Has(I) ? arguments.Convert(I, &OleTraits<ArgumentType<F, I>>::From) : Converted<F, I> {})... };
+    }
+
+    // The values of the [in, out] parameters go back to the caller's variables.
+    template <auto F, size_t I, class Value>
+    static void PutBackArgument(const DispatchArguments& arguments, const Value& value)
+    {
+        if constexpr (ByReference<F, I>) {
+            if (!arguments.Has(I))
+                return;
+            OleVariant converted;
+            OleTraits<ArgumentType<F, I>>::Put(*converted.Put(), value);
+            PutBack(arguments.At(I), converted.Get());
+        }
+    }
+    template <auto F, class Values, size_t... I>
+    static void PutBackArguments(const DispatchArguments& arguments, const Values& values, std::index_sequence<I...>)
+    {
+        (PutBackArgument<F, I>(arguments, std::get<I>(values)), ...);
     }
 
     template <auto Get> static void CallGet(ControlObject& object, const DispatchArguments& arguments, VARIANT& result)
@@ -88,6 +118,7 @@ private:
         using R = typename Signature<Get>::Result;
         if constexpr (std::is_void_v<R>) {
             std::apply([&](auto&... v) { std::invoke(Get, control, v...); }, values);
+            PutBackArguments<Get>(arguments, values, std::make_index_sequence<ArgumentCount<Get>()>());
         } else {
             decltype(auto) value = std::apply([&](auto&... v) -> R { return std::invoke(Get, control, v...); }, values);
             OleTraitsOf<R>::Put(result, value);

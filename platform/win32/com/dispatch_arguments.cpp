@@ -1,4 +1,5 @@
 #include "platform/win32/com/dispatch_arguments.h"
+#include "platform/win32/com/argument_conversion.h"
 
 namespace tolva::win32 {
 
@@ -6,5 +7,10 @@ DispatchArguments::DispatchArguments(const DISPPARAMS& params, bool assignment)
     : m_params(params)
     , m_count(assignment && params.cArgs > 0 ? params.cArgs - 1 : params.cArgs)
 { }
+
+bool DispatchArguments::Has(size_t index) const
+{
+    return index < m_count && !IsMissing(At(index));
+}
 
 } // namespace tolva::win32

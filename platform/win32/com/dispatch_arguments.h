@@ -26,6 +26,8 @@ public:
     DispatchArguments(const DISPPARAMS& params, bool assignment);
 
     size_t Count() const { return m_count; }
+    // Whether argument index was given (optional ones may be left out or passed as missing).
+    bool Has(size_t index) const;
     const VARIANT& At(size_t index) const { return m_params.rgvarg[DispatchIndex(index)]; }
     const VARIANT& Value() const { return m_params.rgvarg[0]; } // assignments only
 

@@ -11,11 +11,13 @@ class DispatchArguments;
 
 // A value type as the type library declares it. Colours are the OLE_COLOR alias; an
 // enumeration is a 32-bit value of the named enum type.
-enum class OleType { Void, Bool, Int16, Int32, Float, Double, Currency, Date, String, Color, Font };
+enum class OleType { Void, Bool, Int16, Int32, Float, Double, Currency, Date, String, Color, Font, Variant };
 
 struct TypeSpec {
     OleType type = OleType::Void;
     const wchar_t* enumName = nullptr; // the enum type of an Int32, if it is one
+    bool byReference = false; // a parameter [in, out]: the callee's value goes back to the caller
+    bool optional = false; // a parameter that may be left out: the callee gets the type's default
 };
 
 constexpr TypeSpec Enum(const wchar_t* name)

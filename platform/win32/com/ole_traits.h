@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/win32/com/argument_conversion.h"
 #include "platform/win32/com/dispatch_member.h"
+#include "platform/win32/com/variant_conversion.h"
 #include <type_traits>
 
 namespace tolva::win32 {
@@ -64,6 +65,13 @@ template <> struct OleTraits<String> {
 };
 
 template <> struct OleTraits<StringView> : OleTraits<String> { };
+
+// Any value, as the core's Variant (an argument left out is an empty one).
+template <> struct OleTraits<Variant> {
+    static constexpr OleType Type = OleType::Variant;
+    static Variant From(const VARIANT& v) { return FromOleVariant(v); }
+    static void Put(VARIANT& r, const Variant& v) { ToOleVariant(v, r); }
+};
 
 template <class T> using OleTraitsOf = OleTraits<std::remove_cvref_t<T>>;
 

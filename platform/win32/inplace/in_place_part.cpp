@@ -86,7 +86,10 @@ void InPlacePart::UiActivate(bool takeFocus)
     }
     if (m_document)
         m_document->SetActiveObject(active, nullptr);
-    if (takeFocus && GetFocus() != Surface().Window())
+    // The focus may already be inside the control, in a window of its own (its text box).
+    HWND window = Surface().Window();
+    HWND focus = GetFocus();
+    if (takeFocus && focus != window && !IsChild(window, focus))
         Surface().TakeFocus();
 }
 

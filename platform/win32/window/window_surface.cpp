@@ -3,10 +3,12 @@
 #include "platform/win32/gdi/gdi_canvas.h"
 #include "platform/win32/gdi/gdi_object.h"
 #include "platform/win32/gdi/window_dc.h"
+#include "platform/win32/window/edit_text_box.h"
 #include "platform/win32/window/input_state.h"
 #include "platform/win32/window/window_class.h"
 #include <algorithm>
 #include <cmath>
+#include <olectl.h>
 #include <windowsx.h>
 
 namespace tolva::win32 {
@@ -65,6 +67,8 @@ WindowSurface::~WindowSurface()
     DropKeepAlive();
     for (WindowSurface* child : m_children)
         child->m_parent = nullptr;
+    for (EditTextBox* box : m_textBoxes)
+        box->OwnerGone();
     if (m_parent)
         std::erase(m_parent->m_children, this);
     DestroyWindow();
@@ -105,6 +109,46 @@ void WindowSurface::CreateOwnWindow(HWND parent)
         return;
     for (WindowSurface* child : m_children)
         child->CreateOwnWindow(m_window);
+    for (EditTextBox* box : m_textBoxes)
+        box->CreateWindowIn(m_window);
+}
+
+void WindowSurface::AttachTextBox(EditTextBox* box)
+{
+    m_textBoxes.push_back(box);
+    if (m_window)
+        box->CreateWindowIn(m_window);
+}
+
+void WindowSurface::DetachTextBox(EditTextBox* box)
+{
+    std::erase(m_textBoxes, box);
+}
+
+std::unique_ptr<TextBox> WindowSurface::CreateTextBox()
+{
+    return std::make_unique<EditTextBox>(*this);
+}
+
+WindowSurface& WindowSurface::Root()
+{
+    WindowSurface* root = this;
+    while (root->m_parent)
+        root = root->m_parent;
+    return *root;
+}
+
+bool WindowSurface::Inside(HWND window)
+{
+    HWND own = Root().m_window;
+    return own && window && (window == own || IsChild(own, window));
+}
+
+void WindowSurface::FocusMovedInside(bool gotFocus, HWND other)
+{
+    WindowSurface& root = Root();
+    if (!Inside(other) && root.m_owner)
+        root.m_owner->OnSurfaceFocus(gotFocus);
 }
 
 // A 3D border is the system's sunken client edge. A flat one is the system's thin border, one
@@ -221,9 +265,23 @@ void WindowSurface::PaintTree()
     }
     if (SurfaceListener* listener = Listener())
         listener->OnPaint();
+    PrintTextBoxes();
     for (WindowSurface* child : m_children)
         if (child->Visible())
             child->PaintTree();
+}
+
+// The text boxes' windows draw themselves into the container's device context.
+void WindowSurface::PrintTextBoxes()
+{
+    for (EditTextBox* box : m_textBoxes) {
+        if (!box->Window())
+            continue;
+        POINT origin {};
+        SetViewportOrgEx(m_target.dc, m_target.x + ToPixels(box->Left()), m_target.y + ToPixels(box->Top()), &origin);
+        SendMessageW(box->Window(), WM_PRINT, reinterpret_cast<WPARAM>(m_target.dc), PRF_CLIENT | PRF_ERASEBKGND);
+        SetViewportOrgEx(m_target.dc, origin.x, origin.y, nullptr);
+    }
 }
 
 void WindowSurface::EndRedirectTree()
@@ -461,7 +519,7 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
     case WM_SETFOCUS: {
         m_focused = true;
         const std::weak_ptr<int> alive = m_lifetime;
-        if (m_owner)
+        if (m_owner && !Inside(reinterpret_cast<HWND>(wParam)))
             m_owner->OnSurfaceFocus(true);
         if (SurfaceListener* listener = alive.expired() ? nullptr : Listener())
             listener->OnGotFocus();
@@ -472,13 +530,24 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         const std::weak_ptr<int> alive = m_lifetime;
         if (SurfaceListener* listener = Listener())
             listener->OnLostFocus();
-        if (!alive.expired() && m_owner)
+        if (!alive.expired() && m_owner && !Inside(reinterpret_cast<HWND>(wParam)))
             m_owner->OnSurfaceFocus(false);
         return 0;
     }
     case WM_SIZE:
         OnSizeMessage(window);
         return 0;
+    case WM_SHOWWINDOW:
+        if (SurfaceListener* listener = Listener(); listener && !wParam)
+            listener->OnHide();
+        return DefWindowProcW(window, message, wParam, lParam);
+    case WM_COMMAND:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+        // A text box's notifications go back to it.
+        if (HWND child = reinterpret_cast<HWND>(lParam); child && GetParent(child) == window)
+            return SendMessageW(child, OCM__BASE + message, wParam, lParam);
+        return DefWindowProcW(window, message, wParam, lParam);
     default:
         return DefWindowProcW(window, message, wParam, lParam);
     }
@@ -544,7 +613,7 @@ void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPA
     default: // a press; a right or middle double click counts as one
         m_buttonsDown |= button;
         ::SetCapture(window);
-        if (button == InputState::LeftButton && m_canGetFocus && GetFocus() != window) {
+        if (button == InputState::LeftButton && m_canGetFocus && !Inside(GetFocus())) {
             ::SetFocus(window);
             if (alive.expired())
                 return;

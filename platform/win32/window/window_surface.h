@@ -8,6 +8,7 @@
 
 namespace tolva::win32 {
 
+class EditTextBox;
 class GdiCanvas;
 
 // A control's surface over a child window of our own class: a windowless surface that gains a
@@ -42,6 +43,7 @@ public:
     // Stops holding the COM object during messages, here and in the children: its last
     // reference is going, and the window's last messages must not revive it.
     void DropKeepAlive();
+    IUnknown* KeepAlive() const { return m_keepAlive; }
 
     // Creates the window as a child of parent at rect (the parent's client pixels) and the
     // windows of the children; the surface's geometry becomes rect in twips.
@@ -54,6 +56,13 @@ public:
     // does not).
     void SetCanGetFocus(bool canGetFocus) { m_canGetFocus = canGetFocus; }
     void TakeFocus();
+
+    // The text boxes made by CreateTextBox get their windows with this one's.
+    void AttachTextBox(EditTextBox* box);
+    void DetachTextBox(EditTextBox* box);
+    // The focus went to (or came from) a window inside this one: the container hears of it only
+    // when it crossed the control's edge, other is where it went to or came from.
+    void FocusMovedInside(bool gotFocus, HWND other);
 
     // Alt plus key: whether key is one of the access keys (letters in either case), and its press.
     bool HasAccessKey(char16_t key) const;
@@ -80,6 +89,7 @@ public:
     std::unique_ptr<Canvas> CreateCanvas(int32_t width, int32_t height) override;
     void Present(const Canvas& image, int32_t x, int32_t y, int32_t width, int32_t height) override;
     std::unique_ptr<Surface> CreateChild() override;
+    std::unique_ptr<TextBox> CreateTextBox() override; // an EditTextBox
 
 private:
     // Where Present copies to instead of the window: a container's device context (DrawTo) at
@@ -105,6 +115,10 @@ private:
     DWORD BorderExStyleBits() const;
     void ApplyBorder();
     void Forget(); // the window is gone (destroyed by us or with its parent)
+    WindowSurface& Root();
+    // window is the control's own window or one inside it.
+    bool Inside(HWND window);
+    void PrintTextBoxes();
     RECT PixelRect() const;
     void RedirectTree(HDC dc, int32_t x, int32_t y);
     void PaintTree();
@@ -114,6 +128,7 @@ private:
     AltKeyState m_altKey; // followed while the surface lives, for its mouse events
     WindowSurface* m_parent = nullptr;
     std::vector<WindowSurface*> m_children;
+    std::vector<EditTextBox*> m_textBoxes;
     Owner* m_owner = nullptr;
     HWND m_window = nullptr;
     Target m_target;

@@ -22,12 +22,14 @@ public:
     void SetCapture() override { }
     void ReleaseCapture() override { }
     PixelPoint ScreenOrigin() const override { return {}; }
+    PixelPoint ScreenSize() const override;
     void Refresh() override { }
 
     std::unique_ptr<Canvas> CreateCanvas(int32_t width, int32_t height) override;
     void Present(const Canvas&, int32_t, int32_t, int32_t, int32_t) override { }
 
     std::unique_ptr<Surface> CreateChild() override;
+    std::unique_ptr<TextBox> CreateTextBox() override; // a model: there is no window to type in
     std::unique_ptr<Timer> CreateTimer() override;
 
 private:

@@ -1,6 +1,7 @@
 // Every binding table against the type library: the contract clients compile against must be
 // exactly what Invoke does.
 #include "controls/command/tolva_command.h"
+#include "controls/input/tolva_input_enums.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/com/type_library.h"
@@ -22,10 +23,14 @@ using test::NameOf;
 std::wstring Describe(const TypeSpec& t)
 {
     static const wchar_t* names[] = { L"void", L"bool", L"short", L"long", L"float", L"double", L"currency", L"date",
-        L"string", L"OLE_COLOR", L"font" };
+        L"string", L"OLE_COLOR", L"font", L"variant" };
     std::wstring text = names[int(t.type)];
     if (t.enumName)
         text += std::wstring(L" enum ") + t.enumName;
+    if (t.byReference)
+        text += L"*";
+    if (t.optional)
+        text += L" optional";
     return text;
 }
 
@@ -51,6 +56,8 @@ std::wstring Describe(ITypeInfo* info, const TYPEDESC& desc)
         return Describe(TypeSpec { OleType::Date });
     case VT_BSTR:
         return Describe(TypeSpec { OleType::String });
+    case VT_VARIANT:
+        return Describe(TypeSpec { OleType::Variant });
     case VT_PTR: {
         std::wstring target = Describe(info, *desc.lptdesc);
         return target == L"IFontDisp" ? Describe(TypeSpec { OleType::Font }) : target + L"*";
@@ -86,8 +93,11 @@ std::map<std::pair<DISPID, INVOKEKIND>, Declared> DeclaredMembers(ITypeInfo* inf
     std::map<std::pair<DISPID, INVOKEKIND>, Declared> members;
     ForEachFunction(info, [&](const FUNCDESC& function) {
         Declared declared { NameOf(info, function.memid), Describe(info, function.elemdescFunc.tdesc), {} };
-        for (SHORT p = 0; p < function.cParams; ++p)
-            declared.parameters.push_back(Describe(info, function.lprgelemdescParam[p].tdesc));
+        for (SHORT p = 0; p < function.cParams; ++p) {
+            const ELEMDESC& parameter = function.lprgelemdescParam[p];
+            const bool optional = (parameter.paramdesc.wParamFlags & PARAMFLAG_FOPT) != 0;
+            declared.parameters.push_back(Describe(info, parameter.tdesc) + (optional ? L" optional" : L""));
+        }
         members[{ function.memid, function.invkind }] = declared;
     });
     return members;
@@ -210,6 +220,10 @@ TEST(TypeLibraryEnums, MatchTheCoreConstants)
     EXPECT_EQ(EnumValues(L"tkCommandAlignment"),
         (std::map<std::wstring, LONG> {
             { L"tkLeft", tkCommandAlignment::tkLeft }, { L"tkCenter", tkCommandAlignment::tkCenter } }));
+    EXPECT_EQ(EnumValues(L"tkInputStyles"),
+        (std::map<std::wstring, LONG> { { L"tkTextBox", tkInputStyles::tkTextBox },
+            { L"tkCalendar", tkInputStyles::tkCalendar }, { L"tkCalculator", tkInputStyles::tkCalculator },
+            { L"tkCombo", tkInputStyles::tkCombo } }));
 }
 
 TEST(TypeLibraryEvents, CommandEventsTakeShortsAndSinglesByReference)

@@ -1,6 +1,6 @@
-// TolvaLabel and TolvaScroll from the registered DLL: their registry entries, creation by class id
-// and by either ProgID, and use without a container as a script's CreateObject leaves them. The
-// scroll bar's slider control stays private: it is neither registered nor creatable.
+// TolvaLabel, TolvaScroll and TolvaInput from the registered DLL: their registry entries, creation by
+// class id and by either ProgID, and use without a container as a script's CreateObject leaves them.
+// The scroll bar's slider control stays private: it is neither registered nor creatable.
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_ptr.h"
 #include "tests/win32/dll/tolva_kit_dll.h"
@@ -27,6 +27,11 @@ const Published Scroll
     = { L"TolvaScroll", { 0x6FECD5E3, 0x6625, 0x4EC9, { 0xAD, 0x36, 0x70, 0x80, 0xFD, 0x6A, 0x23, 0x6B } },
           { 0x849EEB14, 0x84BA, 0x4093, { 0x8C, 0x6E, 0xAE, 0xE8, 0xEE, 0xDE, 0x58, 0x98 } },
           { 0xF18805C8, 0xD85C, 0x4F36, { 0x9A, 0x92, 0x7A, 0xDF, 0xB5, 0xCF, 0xC3, 0xF4 } } };
+
+const Published Input
+    = { L"TolvaInput", { 0xBFB36080, 0xB24C, 0x42F2, { 0x93, 0x8B, 0xB9, 0x71, 0x7E, 0x91, 0xA0, 0x6D } },
+          { 0x7313333F, 0xB3E6, 0x4886, { 0x9E, 0x51, 0x2A, 0xF3, 0x14, 0xD8, 0xEF, 0x20 } },
+          { 0x70FF4662, 0x1081, 0x44F4, { 0x8E, 0xBD, 0x7E, 0x0C, 0x5C, 0xC4, 0xC1, 0x5A } } };
 
 class LabelAndScroll : public testing::TestWithParam<const Published*> { };
 
@@ -76,7 +81,7 @@ TEST_P(LabelAndScroll, IsCreatedByClassIdAndProgIdWithItsClassInformation)
     info->ReleaseTypeAttr(attributes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Classes, LabelAndScroll, testing::Values(&Label, &Scroll),
+INSTANTIATE_TEST_SUITE_P(Classes, LabelAndScroll, testing::Values(&Label, &Scroll, &Input),
     [](const testing::TestParamInfo<const Published*>& info) { return ToUtf8(ViewOf(info.param->name)); });
 
 TEST(PrivateSlider, IsNeitherRegisteredNorCreatable)

@@ -4,6 +4,7 @@
 #include "platform/win32/com/error_reporting.h"
 #include "platform/win32/com/ole_variant.h"
 #include "platform/win32/com/type_library.h"
+#include <algorithm>
 
 namespace tolva::win32 {
 
@@ -16,13 +17,16 @@ bool IsObject(const VARIANT& value)
     return type == VT_DISPATCH || type == VT_UNKNOWN;
 }
 
-// Positional arguments must all be there: none of the published members has an optional one.
+// Positional arguments must be there unless they are optional, which may be left out at the end
+// or passed as missing.
 HRESULT CheckArguments(const DispatchMember& member, const DispatchArguments& arguments, UINT* argumentError)
 {
-    if (arguments.Count() != member.parameters.size())
+    const auto required = size_t(std::count_if(member.parameters.begin(), member.parameters.end(),
+        [](const TypeSpec& parameter) { return !parameter.optional; }));
+    if (arguments.Count() < required || arguments.Count() > member.parameters.size())
         return DISP_E_BADPARAMCOUNT;
     for (size_t i = 0; i < arguments.Count(); ++i) {
-        if (IsMissing(arguments.At(i))) {
+        if (IsMissing(arguments.At(i)) && !member.parameters[i].optional) {
             if (argumentError)
                 *argumentError = arguments.DispatchIndex(i);
             return DISP_E_PARAMNOTOPTIONAL;
