@@ -20,6 +20,7 @@ std::vector<Scene> CommandScenes();
 std::vector<Scene> LabelScenes();
 std::vector<Scene> ScrollScenes();
 std::vector<Scene> TabsScenes();
+std::vector<Scene> InputScenes();
 std::vector<Scene> AllScenes();
 
 } // namespace tolva::render

@@ -183,5 +183,74 @@ TEST_F(InputObject, AStreamRoundTripKeepsEveryValue)
     EXPECT_TRUE(loaded.Core().SelectionTracking());
 }
 
+// The calculator's keys through the dispatch interface, formatted by the system.
+class InputCalculator : public InputObject {
+protected:
+    void SetUp() override
+    {
+        InputObject::SetUp();
+        Put(d, L"Style", Long(tkInputStyles::tkCalculator));
+    }
+    HRESULT Key(const wchar_t* param, double value = 0)
+    {
+        VARIANT amount;
+        V_VT(&amount) = VT_CY;
+        VarCyFromR8(value, &V_CY(&amount));
+        return Method(L"PopupWindowCallback", { Text(param), amount });
+    }
+};
+
+TEST_F(InputCalculator, TwelvePlusThreeIsFifteen)
+{
+    Key(L"C", 0);
+    EXPECT_EQ(ReadText(L"Text"), L"0");
+    for (double digit : { 1, 2 })
+        Key(L"#", digit);
+    Key(L"+");
+    Key(L"#", 3);
+    EXPECT_EQ(Key(L"="), S_OK);
+    EXPECT_EQ(ReadText(L"Text"), L"15");
+    Key(L"C", 7);
+    Key(L"/");
+    Key(L"#", 2);
+    Key(L"=");
+    EXPECT_EQ(ReadText(L"Text"), L"3.5");
+}
+
+TEST_F(InputCalculator, EqualsAppliesTheFormatString)
+{
+    Put(d, L"FormatString", Text(L"#,##0.00"));
+    Key(L"C", 1234);
+    Key(L"*");
+    Key(L"#", 2);
+    Key(L"=");
+    EXPECT_EQ(ReadText(L"Text"), L"2,468.00");
+}
+
+// Errors of the arithmetic and of hostile formats come back as errors; nothing else breaks.
+TEST_F(InputCalculator, ArithmeticErrorsAndHostileFormatsAreAnswered)
+{
+    Key(L"C", 5);
+    Key(L"/");
+    Key(L"#", 0);
+    EXPECT_EQ(Key(L"="), HRESULT(0x800A000B));
+    Key(L"C", 922337203685477.0);
+    Key(L"+");
+    Key(L"#", 9);
+    EXPECT_EQ(Key(L"="), HRESULT(0x800A0006));
+    Key(L"C", 922337203685477.0);
+    Key(L"-");
+    Key(L"#", 1);
+    EXPECT_EQ(Key(L"="), S_OK);
+    EXPECT_EQ(ReadText(L"Text"), L"922337203685476");
+
+    const std::wstring format(10000, L'0');
+    Put(d, L"FormatString", Text(format.c_str()));
+    Key(L"C", 12);
+    const HRESULT closed = Key(L"");
+    const std::wstring text = ReadText(L"Text");
+    EXPECT_TRUE(FAILED(closed) || text.size() >= 2) << std::hex << closed;
+}
+
 } // namespace
 } // namespace tolva::win32::test
