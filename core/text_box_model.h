@@ -49,8 +49,6 @@ public:
     void ApplyKeyDown(int16_t keyCode, int16_t shift, String& clipboard);
     void ApplyChar(char16_t character, String& clipboard);
 
-    int32_t Caret() const { return m_caret; }
-
 protected:
     TextBoxListener* Listener() const { return m_listener; }
     // After anything that changes the look: the text, the selection, colours, font, enabled.

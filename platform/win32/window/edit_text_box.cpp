@@ -91,17 +91,12 @@ LRESULT EditTextBox::CallEdit(UINT message, WPARAM wParam, LPARAM lParam)
     return CallWindowProcW(m_editProc, m_window, message, wParam, lParam);
 }
 
-void EditTextBox::ApplyGeometry()
-{
-    if (m_window)
-        SetWindowPos(m_window, nullptr, ToPixels(Left()), ToPixels(Top()), ToPixels(Width()), ToPixels(Height()),
-            SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void EditTextBox::Move(float left, float top, float width, float height)
 {
     TextBoxModel::Move(left, top, width, height);
-    ApplyGeometry();
+    if (m_window)
+        SetWindowPos(m_window, nullptr, ToPixels(Left()), ToPixels(Top()), ToPixels(Width()), ToPixels(Height()),
+            SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // The window holds the selection the user made; the model takes it before code changes it.

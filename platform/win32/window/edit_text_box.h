@@ -55,7 +55,6 @@ private:
     // The user changed the text: the model takes it and the owner hears Change.
     void TakeTypedText();
     void PullSelection();
-    void ApplyGeometry();
     void Forget();
 
     WindowSurface* m_owner;

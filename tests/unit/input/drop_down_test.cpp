@@ -53,12 +53,6 @@ TEST_F(DropDownTest, TheButtonIsAFramedDownwardTriangleInTheColourOfItsState)
     EXPECT_EQ(Strip(0xBDCBCE), look);
 }
 
-TEST_F(DropDownTest, NoButtonShowsInTheTextBoxStyle)
-{
-    EXPECT_EQ(input.TextInput().Width(), surface.ScaleWidth());
-    EXPECT_EQ(surface.WindowPixel(95, 0), surface.WindowPixel(95, 1));
-}
-
 // The strip's bounds count as inside, the text box's area does not.
 TEST_F(DropDownTest, HoverTakesTheCaptureOverTheStripWithItsEdgesIncluded)
 {
