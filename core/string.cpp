@@ -115,4 +115,19 @@ String FromUtf8(std::string_view text)
     return out;
 }
 
+char16_t AsciiLower(char16_t c)
+{
+    return c >= u'A' && c <= u'Z' ? char16_t(c - u'A' + u'a') : c;
+}
+
+bool EqualsIgnoringCase(StringView a, StringView b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (size_t i = 0; i < a.size(); ++i)
+        if (AsciiLower(a[i]) != AsciiLower(b[i]))
+            return false;
+    return true;
+}
+
 } // namespace tolva

@@ -9,6 +9,10 @@ namespace tolva {
 using String = std::u16string;
 using StringView = std::u16string_view;
 
+// ASCII letters compared without their case (the names and keywords of formats and values).
+char16_t AsciiLower(char16_t c);
+bool EqualsIgnoringCase(StringView a, StringView b);
+
 // Conversions for diagnostics, file names and tests.
 std::string ToUtf8(StringView text);
 String FromUtf8(std::string_view text);

@@ -60,18 +60,6 @@ int64_t RoundCurrency(Currency amount)
     return whole;
 }
 
-bool EqualsIgnoringCase(StringView a, StringView b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (size_t i = 0; i < a.size(); ++i) {
-        const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
-        if (lower(a[i]) != lower(b[i]))
-            return false;
-    }
-    return true;
-}
-
 // Integer or Int-sized whole number from any numeric storage.
 template <typename Int> Int ToInteger(const Variant::Storage& value)
 {

@@ -1,6 +1,7 @@
 #include "platform/win32/com/ole_formatter.h"
 #include "core/automation_error.h"
 #include "platform/win32/com/bstr.h"
+#include "platform/win32/com/format_result_bound.h"
 #include "platform/win32/com/ole_variant.h"
 #include "platform/win32/com/variant_conversion.h"
 #include <new>
@@ -12,6 +13,11 @@ namespace {
 // The language's defaults for Format: weeks start on Sunday, the first week holds 1 January.
 constexpr int FirstDayOfWeek = 1;
 constexpr int FirstWeekOfYear = 1;
+
+// Wine's VarFormat builds its result in a buffer of 256 characters on the stack and runs past
+// its end for longer results (a number of a hundred digits, a picture of many long dates);
+// what could come out longer than this is refused as an overflow instead.
+constexpr size_t LongestSafeResult = 200;
 
 [[noreturn]] void ThrowFailure(HRESULT hr)
 {
@@ -49,6 +55,8 @@ String OleFormatter::Format(const Variant& value, StringView format)
 {
     OleVariant input;
     ToOleVariant(value, *input.Put());
+    if (!format.empty() && FormatResultBound(input.Get(), format) > LongestSafeResult)
+        throw AutomationError::RunTime(RunTimeError::Overflow);
     Bstr expression(format);
     Bstr result;
     Check(VarFormat(&input.Get(), format.empty() ? nullptr : expression.Get(), FirstDayOfWeek, FirstWeekOfYear, 0,
