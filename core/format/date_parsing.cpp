@@ -73,6 +73,12 @@ std::optional<std::vector<Token>> Tokens(StringView text)
             return std::nullopt;
         }
     }
+    // A date separator stands between two parts.
+    for (size_t k = 0; k < tokens.size(); ++k) {
+        const auto separator = [&](size_t j) { return tokens[j].kind == Token::Kind::DateSeparator; };
+        if (separator(k) && (k == 0 || k + 1 == tokens.size() || separator(k - 1) || separator(k + 1)))
+            return std::nullopt;
+    }
     return tokens;
 }
 

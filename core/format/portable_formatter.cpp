@@ -157,7 +157,8 @@ Currency PortableFormatter::TextToCurrency(StringView text)
     const auto number = ParseLocaleNumber(text);
     if (!number)
         throw AutomationError::RunTime(RunTimeError::TypeMismatch);
-    return number->ToCurrency();
+    // Digits past the fourth decimal round half away from zero.
+    return RoundedToFraction(*number, 4).ToCurrency();
 }
 
 OleDate PortableFormatter::TextToDate(StringView text)

@@ -65,6 +65,10 @@ TEST(ParseLocaleDate, ReadsTheLocalesDatesAndTimes)
         { u"1/2/2003 x", NotADate },
         { u"3:04:05.5", NotADate },
         { u"$1,234.56", NotADate },
+        { u"-1/2/2003", NotADate },
+        { u"1//2/2003", NotADate },
+        { u"1/2/2003-", NotADate },
+        { u"Jan-2-2003", jan2 },
         { u"99999999999999999999/1/1", NotADate },
     };
     for (const DateCase& c : cases) {

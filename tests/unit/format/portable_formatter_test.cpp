@@ -173,7 +173,7 @@ TEST(PortableFormatter, HostileInputIsAnErrorOrAResult)
 TEST(PortableFormatter, ReadsAmountsAndNumbers)
 {
     PortableFormatter formatter;
-    EXPECT_EQ(formatter.TextToCurrency(u"($1,234.56785)"), Currency::FromRaw(-12345678)); // half to even
+    EXPECT_EQ(formatter.TextToCurrency(u"($1,234.56785)"), Currency::FromRaw(-12345679)); // half away from zero
     EXPECT_EQ(formatter.TextToCurrency(u"922,337,203,685,477.5807"), Currency::FromRaw(INT64_MAX));
     EXPECT_EQ(RunTimeErrorOf([&] { formatter.TextToCurrency(u"922337203685477.5808"); }), RunTimeError::Overflow);
     EXPECT_EQ(RunTimeErrorOf([&] { formatter.TextToCurrency(u"12 apples"); }), RunTimeError::TypeMismatch);
