@@ -1,4 +1,5 @@
 #include "platform/win32/com/format_result_bound.h"
+#include "core/format/named_formats.h"
 #include "platform/win32/com/ole_variant.h"
 #include <cmath>
 #include <limits>
@@ -54,6 +55,17 @@ size_t DigitsBound(const VARIANT& value)
 
 size_t FormatResultBound(const VARIANT& value, StringView format)
 {
+    // Named formats write a number with all its digits, or in a short form, or a date.
+    constexpr size_t Words = 64;
+    if (const auto named = FindNamedFormat(format)) {
+        switch (*named) {
+        case NamedFormat::Currency:
+        case NamedFormat::Fixed:
+        case NamedFormat::Standard:
+        case NamedFormat::Percent: return DigitsBound(value) + Words;
+        default: return Words;
+        }
+    }
     size_t bound = DigitsBound(value);
     for (char16_t c : format)
         bound += CharacterBound(c);

@@ -1,6 +1,6 @@
 // The portable en-US formatter against the system's (oleaut32 under Wine, en-US locale): every
 // pair of the corpora must agree, except the listed differences of Wine, where each side must
-// give the answer listed for it.
+// give the answer listed for it (Wine's is not checked where it is listed as unreliable).
 #include "core/format/portable_formatter.h"
 #include "platform/win32/com/ole_formatter.h"
 #include "tests/win32/format/corpus.h"
@@ -9,6 +9,9 @@
 
 namespace tolva::test {
 namespace {
+
+// Wine's answer where it changes from run to run.
+constexpr const char* Unreliable = "<unreliable>";
 
 class FormatDifferential : public testing::Test {
 protected:
@@ -28,7 +31,9 @@ protected:
             const std::string systems = answer(system, c);
             if (c.wineDifference) {
                 EXPECT_EQ(mine, c.wineDifference->windows);
-                EXPECT_EQ(systems, c.wineDifference->wine);
+                if (c.wineDifference->wine != Unreliable) {
+                    EXPECT_EQ(systems, c.wineDifference->wine);
+                }
                 ++listed;
             } else {
                 EXPECT_EQ(mine, systems);
