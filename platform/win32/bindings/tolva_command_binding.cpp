@@ -40,6 +40,7 @@ extern const ControlClass TolvaCommandClass = {
     &DIID___TolvaCommand,
     Members,
     &CreateHostedControl<TolvaCommand, TolvaCommandEventForwarder>,
+    Behaviours::Button,
 };
 
 } // namespace tolva::win32

@@ -45,6 +45,7 @@ extern const ControlClass TolvaLabelClass = {
     &DIID___TolvaLabel,
     Members,
     &CreateHostedControl<TolvaLabel, TolvaLabelEventForwarder>,
+    Behaviours::NoFocus,
 };
 
 } // namespace tolva::win32

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/com/control_behaviour.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/hosted_control.h"
 #include <span>
@@ -7,7 +8,8 @@
 namespace tolva::win32 {
 
 // What the shell knows of one creatable control: its name (the ProgID is "TolvaKit.<name>"),
-// its GUIDs in the type library, its binding table and how to build the core control.
+// its GUIDs in the type library, its binding table, how to build the core control and how it
+// behaves towards containers (a focusable control unless it says otherwise).
 struct ControlClass {
     const wchar_t* name;
     const CLSID* clsid;
@@ -15,6 +17,7 @@ struct ControlClass {
     const IID* eventIid; // the default source dispinterface
     std::span<const DispatchMember> members;
     HostedControlFactory create;
+    ControlBehaviour behaviour = Behaviours::Focusable;
 
     std::wstring ProgId() const { return std::wstring(L"TolvaKit.") + name; }
     std::wstring VersionedProgId() const { return ProgId() + L".1"; }

@@ -12,11 +12,6 @@ namespace tolva::win32 {
 
 namespace {
 
-// What form designers expect of an ActiveX control: set the client site first, activate when
-// visible, inside-out, no linking inside, recompose on resize.
-constexpr DWORD MiscStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_INSIDEOUT
-    | OLEMISC_CANTLINKINSIDE | OLEMISC_RECOMPOSEONRESIZE;
-
 // The standard marshaller of dispinterfaces.
 constexpr const wchar_t* DispatchProxy = L"{00020420-0000-0000-C000-000000000046}";
 
@@ -73,7 +68,7 @@ void RegisterControlClass(HKEY root, const ControlClass& c, const std::wstring& 
     SetKey(root, clsidKey + L"\\Control", L"");
     SetKey(root, clsidKey + L"\\Programmable", L"");
     SetKey(root, clsidKey + L"\\MiscStatus", L"0");
-    SetKey(root, clsidKey + L"\\MiscStatus\\1", std::to_wstring(MiscStatus));
+    SetKey(root, clsidKey + L"\\MiscStatus\\1", std::to_wstring(c.behaviour.miscStatus));
     SetKey(root, clsidKey + L"\\TypeLib", libraryId);
     SetKey(root, clsidKey + L"\\Version", TypeLibraryVersion);
 

@@ -1,6 +1,5 @@
 #include "platform/win32/inplace/in_place_part.h"
 #include "platform/win32/com/error_reporting.h"
-#include "platform/win32/inplace/control_behaviour.h"
 #include "platform/win32/inplace/view_object_part.h"
 
 namespace tolva::win32 {
@@ -8,8 +7,10 @@ namespace tolva::win32 {
 InPlacePart::InPlacePart(ControlObject& object)
     : PartOf(object)
 {
+    const ControlBehaviour& behaviour = m_object.Class().behaviour;
     Surface().SetOwner(this);
-    Surface().SetCanGetFocus(BehaviourOf(m_object.Class()).takesFocus);
+    Surface().SetCanGetFocus(behaviour.takesFocus);
+    Surface().SetDialogCodes(behaviour.dialogCodes, behaviour.keepsEnter);
 }
 
 InPlacePart::~InPlacePart()
@@ -70,7 +71,7 @@ HRESULT InPlacePart::Activate(IOleClientSite* site, const RECT* position, bool u
             return E_OUTOFMEMORY;
         }
     }
-    if (ui && !m_uiActive && !(BehaviourOf(m_object.Class()).miscStatus & OLEMISC_NOUIACTIVATE))
+    if (ui && !m_uiActive && !(m_object.Class().behaviour.miscStatus & OLEMISC_NOUIACTIVATE))
         UiActivate(true);
     return S_OK;
 }

@@ -1,6 +1,5 @@
 #include "platform/win32/inplace/ole_control_part.h"
 #include "platform/win32/com/error_reporting.h"
-#include "platform/win32/inplace/control_behaviour.h"
 #include "platform/win32/inplace/in_place_part.h"
 #include <olectl.h>
 #include <vector>
@@ -71,7 +70,7 @@ HRESULT OleControlPart::GetControlInfo(CONTROLINFO* info)
     m_accelerators = keys.empty() ? nullptr : CreateAcceleratorTableW(keys.data(), int(keys.size()));
     info->hAccel = m_accelerators;
     info->cAccel = USHORT(m_accelerators ? keys.size() : 0);
-    info->dwFlags = BehaviourOf(m_object.Class()).controlInfoFlags;
+    info->dwFlags = m_object.Class().behaviour.controlInfoFlags;
     return S_OK;
 }
 

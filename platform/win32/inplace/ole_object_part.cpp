@@ -1,6 +1,5 @@
 #include "platform/win32/inplace/ole_object_part.h"
 #include "platform/win32/com/error_reporting.h"
-#include "platform/win32/inplace/control_behaviour.h"
 #include "platform/win32/inplace/himetric.h"
 #include "platform/win32/inplace/in_place_part.h"
 #include "platform/win32/inplace/view_object_part.h"
@@ -193,7 +192,7 @@ HRESULT OleObjectPart::GetMiscStatus(DWORD aspect, DWORD* status)
 {
     if (!status)
         return E_POINTER;
-    *status = aspect == DVASPECT_CONTENT ? BehaviourOf(m_object.Class()).miscStatus : 0;
+    *status = aspect == DVASPECT_CONTENT ? m_object.Class().behaviour.miscStatus : 0;
     return S_OK;
 }
 

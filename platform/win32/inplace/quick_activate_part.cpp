@@ -1,5 +1,4 @@
 #include "platform/win32/inplace/quick_activate_part.h"
-#include "platform/win32/inplace/control_behaviour.h"
 #include "platform/win32/inplace/ole_object_part.h"
 #include "platform/win32/inplace/view_object_part.h"
 
@@ -32,7 +31,7 @@ HRESULT QuickActivatePart::QuickActivate(QACONTAINER* container, QACONTROL* cont
         m_object.Events().Advise(container->pUnkEventSink, &control->dwEventCookie);
     if (container->pPropertyNotifySink)
         m_object.PropertyNotifications().Advise(container->pPropertyNotifySink, &control->dwPropNotifyCookie);
-    control->dwMiscStatus = BehaviourOf(m_object.Class()).miscStatus;
+    control->dwMiscStatus = m_object.Class().behaviour.miscStatus;
     control->dwViewStatus = VIEWSTATUS_OPAQUE | VIEWSTATUS_SOLIDBKGND;
     control->dwPointerActivationPolicy = 0;
     return S_OK;

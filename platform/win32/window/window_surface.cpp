@@ -511,8 +511,8 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
     case WM_GETDLGCODE: {
         // Enter and Space belong to the control, not to the dialog's default button.
         const auto* pending = reinterpret_cast<const MSG*>(lParam);
-        LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
-        if (pending && pending->message == WM_KEYDOWN && pending->wParam == VK_RETURN)
+        LRESULT code = m_dialogCodes;
+        if (m_keepsEnter && pending && pending->message == WM_KEYDOWN && pending->wParam == VK_RETURN)
             code |= DLGC_WANTMESSAGE;
         return code;
     }

@@ -55,6 +55,13 @@ public:
     // Whether a click gives the window the keyboard focus (a button's does; an embedded part's
     // does not).
     void SetCanGetFocus(bool canGetFocus) { m_canGetFocus = canGetFocus; }
+    // What the window answers WM_GETDLGCODE: the keys it keeps from the dialog manager, and
+    // whether Enter is one of them (instead of going to the dialog's default button).
+    void SetDialogCodes(UINT codes, bool keepsEnter)
+    {
+        m_dialogCodes = codes;
+        m_keepsEnter = keepsEnter;
+    }
     void TakeFocus();
 
     // The text boxes made by CreateTextBox get their windows with this one's.
@@ -133,6 +140,8 @@ private:
     HWND m_window = nullptr;
     Target m_target;
     bool m_canGetFocus = true;
+    UINT m_dialogCodes = DLGC_WANTARROWS | DLGC_WANTCHARS;
+    bool m_keepsEnter = true;
     bool m_moving = false;
     bool m_focused = false; // between WM_SETFOCUS and WM_KILLFOCUS
     bool m_captured = false; // from SetCapture until WM_CAPTURECHANGED

@@ -3,6 +3,7 @@
 #include "platform/win32/com/com_ptr.h"
 #include "tests/win32/dll/tolva_kit_dll.h"
 #include <gtest/gtest.h>
+#include <ole2.h>
 #include <oleauto.h>
 
 namespace tolva::win32::test {
@@ -35,7 +36,8 @@ TEST_F(Registration, RegistersTheControlClassForInProcessUse)
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\ProgID"), L"TolvaKit.TolvaCommand.1");
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\VersionIndependentProgID"), L"TolvaKit.TolvaCommand");
     EXPECT_TRUE(RegistryKeyExists(HKEY_CLASSES_ROOT, ClassKey + L"\\Control"));
-    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\MiscStatus\\1"), L"131473");
+    // Every control's status, and a button that acts like one (OLEMISC_ACTSLIKEBUTTON).
+    EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\MiscStatus\\1"), L"135569");
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, ClassKey + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand\\CLSID"), GuidText(TolvaCommandClsid));
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"TolvaKit.TolvaCommand\\CurVer"), L"TolvaKit.TolvaCommand.1");
@@ -48,6 +50,36 @@ TEST_F(Registration, RegistersTheControlClassForInProcessUse)
         EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, key + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
     }
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(TolvaCommandEventsIid)), L"__TolvaCommand");
+}
+
+// A container that reads the status from the registry before creating a control must learn
+// what the control itself answers.
+TEST_F(Registration, EveryClassRegistersTheMiscStatusItsObjectsAnswer)
+{
+    ComPtr<ITypeLib> library;
+    ASSERT_EQ(LoadRegTypeLib(TolvaKitLibraryId, 1, 0, LOCALE_NEUTRAL, library.Put()), S_OK);
+    int classes = 0;
+    for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
+        TYPEKIND kind;
+        if (FAILED(library->GetTypeInfoType(i, &kind)) || kind != TKIND_COCLASS)
+            continue;
+        ComPtr<ITypeInfo> info;
+        ASSERT_EQ(library->GetTypeInfo(i, info.Put()), S_OK);
+        TYPEATTR* attributes = nullptr;
+        ASSERT_EQ(info->GetTypeAttr(&attributes), S_OK);
+        const CLSID clsid = attributes->guid;
+        info->ReleaseTypeAttr(attributes);
+
+        ComPtr<IOleObject> object;
+        ASSERT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, object.PutVoid()), S_OK);
+        DWORD status = 0;
+        ASSERT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
+        EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(clsid) + L"\\MiscStatus\\1"),
+            std::to_wstring(status))
+            << GuidText(clsid);
+        ++classes;
+    }
+    EXPECT_GE(classes, 3);
 }
 
 TEST_F(Registration, TheTypeLibraryLoadsFromTheRegistry)
