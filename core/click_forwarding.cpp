@@ -12,7 +12,7 @@ void MouseDown(MouseState& state, ClickTarget& target, int16_t button, int16_t s
         state.pushed = true;
         target.Repaint();
     }
-    target.RaiseMouseDown(button, shift, x, y);
+    target.Events().MouseDown(button, shift, x, y);
 }
 
 void MouseMove(
@@ -20,7 +20,7 @@ void MouseMove(
 {
     UpdateHover(surface, state, x, y);
     target.Repaint();
-    target.RaiseMouseMove(button, shift, x, y);
+    target.Events().MouseMove(button, shift, x, y);
 }
 
 void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
@@ -31,7 +31,7 @@ void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shi
         target.Repaint();
         target.Clicked();
     }
-    target.RaiseMouseUp(button, shift, x, y);
+    target.Events().MouseUp(button, shift, x, y);
 }
 
 } // namespace tolva::ClickForwarding

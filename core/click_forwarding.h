@@ -1,4 +1,5 @@
 #pragma once
+#include "core/mouse_events.h"
 #include "core/mouse_state.h"
 #include "core/surface.h"
 #include <cstdint>
@@ -6,15 +7,13 @@
 namespace tolva {
 
 // What the shared mouse steps need from a clickable control: its paint routine, its click and
-// the three forwarded mouse events (arguments by reference, as the host's sink receives them).
+// the listener its mouse events go to.
 class ClickTarget {
 public:
     virtual void Repaint() = 0;
     // The control's Click event followed by its click action (a pop-up menu, for instance).
     virtual void Clicked() = 0;
-    virtual void RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y) = 0;
-    virtual void RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y) = 0;
-    virtual void RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y) = 0;
+    virtual MouseEvents& Events() = 0;
 
 protected:
     ~ClickTarget() = default;

@@ -97,39 +97,6 @@ void TolvaCommand::SetMenuName(StringView name)
     m_menuName = name;
 }
 
-Font TolvaCommand::GetFont() const
-{
-    return m_surface.GetFont();
-}
-
-void TolvaCommand::SetFont(const Font& font)
-{
-    m_surface.SetFont(font);
-    PropertyChanged(u"Font");
-}
-
-bool TolvaCommand::Enabled() const
-{
-    return m_surface.Enabled();
-}
-
-void TolvaCommand::SetEnabled(bool enabled)
-{
-    m_surface.SetEnabled(enabled);
-    PropertyChanged(u"Enabled");
-}
-
-OleColor TolvaCommand::ForeColor() const
-{
-    return m_surface.ForeColor();
-}
-
-void TolvaCommand::SetForeColor(OleColor color)
-{
-    m_surface.SetForeColor(color);
-    PropertyChanged(u"ForeColor");
-}
-
 void TolvaCommand::SetForeColorDisabled(OleColor color)
 {
     m_foreColorDisabled = color;
@@ -248,21 +215,6 @@ void TolvaCommand::Clicked()
 {
     m_events->Click();
     ShowMenu();
-}
-
-void TolvaCommand::RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseDown(button, shift, x, y);
-}
-
-void TolvaCommand::RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseMove(button, shift, x, y);
-}
-
-void TolvaCommand::RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseUp(button, shift, x, y);
 }
 
 // In menu style the parent's menu opens with its top-left corner at the button's bottom-left.

@@ -3,6 +3,7 @@
 #include "core/caption.h"
 #include "core/click_forwarding.h"
 #include "core/control_site.h"
+#include "core/delegated_properties.h"
 #include "core/mouse_state.h"
 #include "core/ole_color.h"
 #include "core/property_bag.h"
@@ -23,7 +24,7 @@ enum : int32_t { tkLeft = 0, tkCenter = 1 };
 // A flat push button: a one-pixel black frame, a background that follows the mouse, a caption
 // with an optional access key, focus and default marks, and in menu style a drop-down mark and
 // a pop-up menu of its parent form under it.
-class TolvaCommand final : private SurfaceListener, private ClickTarget {
+class TolvaCommand final : public DelegatedProperties<TolvaCommand>, private SurfaceListener, private ClickTarget {
 public:
     TolvaCommand(Surface& surface, ControlSite& site);
     ~TolvaCommand() override;
@@ -46,12 +47,7 @@ public:
     void SetBackColorPushed(OleColor color);
     const String& MenuName() const { return m_menuName; }
     void SetMenuName(StringView name);
-    Font GetFont() const;
-    void SetFont(const Font& font);
-    bool Enabled() const;
-    void SetEnabled(bool enabled);
-    OleColor ForeColor() const;
-    void SetForeColor(OleColor color);
+    // Font, Enabled and ForeColor are the surface's (DelegatedProperties).
     OleColor ForeColorDisabled() const { return m_foreColorDisabled; }
     void SetForeColorDisabled(OleColor color);
     OleColor BackColor() const { return m_backColor; }
@@ -70,6 +66,8 @@ public:
     bool HasFocusFlag() const { return m_hasFocus; }
 
 private:
+    friend DelegatedProperties<TolvaCommand>;
+
     // Surface notifications.
     void OnPaint() override;
     void OnAmbientChanged(StringView name) override;
@@ -87,9 +85,7 @@ private:
     // The shared mouse steps call back here.
     void Repaint() override;
     void Clicked() override;
-    void RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y) override;
-    void RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y) override;
-    void RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y) override;
+    MouseEvents& Events() override { return *m_events; }
 
     // The setter pattern after the value is stored: tell the designer, then repaint.
     void PropertyChanged(StringView key);

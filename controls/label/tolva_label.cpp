@@ -164,54 +164,10 @@ void TolvaLabel::SetBorderStyle(int32_t style)
     PropertyChanged(u"BorderStyle");
 }
 
-Font TolvaLabel::GetFont() const
-{
-    return m_surface.GetFont();
-}
-
-void TolvaLabel::SetFont(const Font& font)
-{
-    m_surface.SetFont(font);
-    PropertyChanged(u"Font");
-}
-
-bool TolvaLabel::Enabled() const
-{
-    return m_surface.Enabled();
-}
-
-void TolvaLabel::SetEnabled(bool enabled)
-{
-    m_surface.SetEnabled(enabled);
-    PropertyChanged(u"Enabled");
-}
-
-OleColor TolvaLabel::ForeColor() const
-{
-    return m_surface.ForeColor();
-}
-
-void TolvaLabel::SetForeColor(OleColor color)
-{
-    m_surface.SetForeColor(color);
-    PropertyChanged(u"ForeColor");
-}
-
 void TolvaLabel::SetForeColorDisabled(OleColor color)
 {
     m_foreColorDisabled = color;
     PropertyChanged(u"ForeColorDisabled");
-}
-
-OleColor TolvaLabel::BackColor() const
-{
-    return m_surface.BackColor();
-}
-
-void TolvaLabel::SetBackColor(OleColor color)
-{
-    m_surface.SetBackColor(color);
-    PropertyChanged(u"BackColor");
 }
 
 void TolvaLabel::SetAlignment(int32_t alignment)
@@ -278,21 +234,6 @@ void TolvaLabel::Clicked()
 {
     m_events->Click();
     ShowMenu();
-}
-
-void TolvaLabel::RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseDown(button, shift, x, y);
-}
-
-void TolvaLabel::RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseMove(button, shift, x, y);
-}
-
-void TolvaLabel::RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseUp(button, shift, x, y);
 }
 
 // The menu opens on the side the arrow points to: under a down arrow, to the right of a right

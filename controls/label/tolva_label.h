@@ -3,6 +3,7 @@
 #include "controls/label/tolva_label_events.h"
 #include "core/click_forwarding.h"
 #include "core/control_site.h"
+#include "core/delegated_properties.h"
 #include "core/mouse_state.h"
 #include "core/ole_color.h"
 #include "core/property_bag.h"
@@ -13,7 +14,7 @@ namespace tolva {
 // A caption that behaves like a link or a small flat button: hot and pushed colours, an optional
 // arrow or pointer glyph, letter spacing, an inset border, and a pop-up menu of its parent form
 // placed by the direction of its arrow. It takes no keyboard input.
-class TolvaLabel final : private SurfaceListener, private ClickTarget {
+class TolvaLabel final : public DelegatedBackColor<TolvaLabel>, private SurfaceListener, private ClickTarget {
 public:
     TolvaLabel(Surface& surface, ControlSite& site);
     ~TolvaLabel() override;
@@ -49,16 +50,9 @@ public:
     void SetKerning(bool kerning);
     int32_t BorderStyle() const;
     void SetBorderStyle(int32_t style); // the surface knows 0 and 1 only: others throw error 380
-    Font GetFont() const;
-    void SetFont(const Font& font);
-    bool Enabled() const;
-    void SetEnabled(bool enabled);
-    OleColor ForeColor() const;
-    void SetForeColor(OleColor color);
+    // Font, Enabled, ForeColor and BackColor are the surface's (DelegatedBackColor).
     OleColor ForeColorDisabled() const { return m_foreColorDisabled; }
     void SetForeColorDisabled(OleColor color);
-    OleColor BackColor() const;
-    void SetBackColor(OleColor color);
     int32_t Alignment() const { return m_alignment; }
     void SetAlignment(int32_t alignment);
 
@@ -81,6 +75,8 @@ public:
     static constexpr const char16_t* DefaultCaption = u"TolvaLabel1";
 
 private:
+    friend DelegatedProperties<TolvaLabel>;
+
     // Surface notifications. The surface's own Click is ignored: Click comes from the mouse-up.
     void OnPaint() override;
     void OnResize() override;
@@ -93,9 +89,7 @@ private:
     // The shared mouse steps.
     void Repaint() override;
     void Clicked() override;
-    void RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y) override;
-    void RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y) override;
-    void RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y) override;
+    MouseEvents& Events() override { return *m_events; }
 
     void PropertyChanged(StringView key);
     void DrawLabel();
