@@ -22,7 +22,7 @@ void TwipsCanvas::SetSize(float width, float height)
 void TwipsCanvas::SetBackColor(OleColor color)
 {
     m_backColor = color;
-    m_image->FillRect(0, 0, m_image->Width(), m_image->Height(), TranslateColor(*m_image, color));
+    m_image->Fill({ 0, 0, m_image->Width(), m_image->Height() }, TranslateColor(*m_image, color));
 }
 
 void TwipsCanvas::Line(float x1, float y1, float x2, float y2, OleColor color)
@@ -34,26 +34,14 @@ void TwipsCanvas::Line(float x1, float y1, float x2, float y2, OleColor color)
 
 void TwipsCanvas::Box(float x1, float y1, float x2, float y2, OleColor color)
 {
-    const int32_t left = std::min(ToPixelX(x1), ToPixelX(x2));
-    const int32_t right = std::max(ToPixelX(x1), ToPixelX(x2));
-    const int32_t top = std::min(ToPixelY(y1), ToPixelY(y2));
-    const int32_t bottom = std::max(ToPixelY(y1), ToPixelY(y2));
-    const ColorRef rgb = TranslateColor(*m_image, color);
-    m_image->FillRect(left, top, right + 1, top + 1, rgb);
-    m_image->FillRect(left, bottom, right + 1, bottom + 1, rgb);
-    m_image->FillRect(left, top, left + 1, bottom + 1, rgb);
-    m_image->FillRect(right, top, right + 1, bottom + 1, rgb);
+    m_image->Frame(PixelBox(x1, y1, x2, y2), TranslateColor(*m_image, color));
     m_currentX = x2;
     m_currentY = y2;
 }
 
 void TwipsCanvas::FilledBox(float x1, float y1, float x2, float y2, OleColor color)
 {
-    const int32_t left = std::min(ToPixelX(x1), ToPixelX(x2));
-    const int32_t right = std::max(ToPixelX(x1), ToPixelX(x2));
-    const int32_t top = std::min(ToPixelY(y1), ToPixelY(y2));
-    const int32_t bottom = std::max(ToPixelY(y1), ToPixelY(y2));
-    m_image->FillRect(left, top, right + 1, bottom + 1, TranslateColor(*m_image, color));
+    m_image->Fill(PixelBox(x1, y1, x2, y2), TranslateColor(*m_image, color));
     m_currentX = x2;
     m_currentY = y2;
 }
@@ -101,6 +89,13 @@ int32_t TwipsCanvas::ToPixelX(float x) const
 int32_t TwipsCanvas::ToPixelY(float y) const
 {
     return ToPixel(y, m_surface.TwipsPerPixelY());
+}
+
+// The pixels of a box whose corners are both included, in either order.
+Rect TwipsCanvas::PixelBox(float x1, float y1, float x2, float y2) const
+{
+    const int32_t xa = ToPixelX(x1), xb = ToPixelX(x2), ya = ToPixelY(y1), yb = ToPixelY(y2);
+    return { std::min(xa, xb), std::min(ya, yb), std::max(xa, xb) + 1, std::max(ya, yb) + 1 };
 }
 
 CanvasFont TwipsCanvas::PixelFont() const

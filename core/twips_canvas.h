@@ -6,9 +6,11 @@
 
 namespace tolva {
 
-// Picture-box drawing in twips over an off-screen canvas of a surface: a current position that
-// Print advances, lines, boxes and filled boxes, text measures, and a font whose underline can be
-// switched on and off between pieces of text. One twip is 1/15 pixel (the surface's ratio).
+// Picture-box drawing in twips over an off-screen pixel canvas of a surface, which it keeps from
+// one paint to the next as a picture box keeps its image: a current position that Print advances,
+// lines, boxes and filled boxes, text measures, and a font whose underline can be switched on and
+// off between pieces of text. It only maps coordinates: every figure is a Canvas call in pixels.
+// One twip is 1/15 pixel (the surface's ratio).
 class TwipsCanvas {
 public:
     explicit TwipsCanvas(Surface& surface);
@@ -51,6 +53,7 @@ public:
 private:
     int32_t ToPixelX(float x) const;
     int32_t ToPixelY(float y) const;
+    Rect PixelBox(float x1, float y1, float x2, float y2) const;
     CanvasFont PixelFont() const;
 
     Surface& m_surface;
