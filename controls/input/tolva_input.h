@@ -137,9 +137,7 @@ private:
     // The shared mouse steps call back here.
     void Repaint() override;
     void Clicked() override;
-    void RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y) override;
-    void RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y) override;
-    void RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y) override;
+    MouseEvents& Events() override { return *m_events; }
 
     void PropertyChanged(StringView key);
     void Layout();

@@ -89,7 +89,7 @@ void TolvaInput::OnMouseMove(int16_t button, int16_t shift, float x, float y)
     const bool inside = x >= m_txtInput->Width() && x <= m_surface.ScaleWidth() && y >= 0 && y <= m_surface.ScaleHeight();
     SetHover(m_surface, m_mouse, inside);
     DrawDropDownButton();
-    RaiseMouseMove(button, shift, x, y);
+    m_events->MouseMove(button, shift, x, y);
 }
 
 void TolvaInput::OnMouseDown(int16_t button, int16_t shift, float x, float y)
@@ -98,7 +98,7 @@ void TolvaInput::OnMouseDown(int16_t button, int16_t shift, float x, float y)
         PressButton(shift, x, y);
         return;
     }
-    RaiseMouseDown(button, shift, x, y);
+    m_events->MouseDown(button, shift, x, y);
 }
 
 // A left press pushes the button and opens (or closes) the pop-up of the style.
@@ -110,7 +110,7 @@ void TolvaInput::PressButton(int16_t shift, float x, float y)
         if (InputPopup* popup = m_site.Popups().Load(KindOfStyle(m_style)))
             ShowDropDown(*popup);
     int16_t button = LeftButton;
-    RaiseMouseDown(button, shift, x, y);
+    m_events->MouseDown(button, shift, x, y);
 }
 
 void TolvaInput::OnMouseUp(int16_t button, int16_t shift, float x, float y)
@@ -121,21 +121,6 @@ void TolvaInput::OnMouseUp(int16_t button, int16_t shift, float x, float y)
 void TolvaInput::Clicked()
 {
     m_events->Click();
-}
-
-void TolvaInput::RaiseMouseDown(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseDown(button, shift, x, y);
-}
-
-void TolvaInput::RaiseMouseMove(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseMove(button, shift, x, y);
-}
-
-void TolvaInput::RaiseMouseUp(int16_t& button, int16_t& shift, float& x, float& y)
-{
-    m_events->MouseUp(button, shift, x, y);
 }
 
 // The focus belongs to the text box.
