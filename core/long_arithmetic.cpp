@@ -21,6 +21,37 @@ int32_t CheckedSubtract(int32_t a, int32_t b)
     return difference;
 }
 
+int32_t CheckedMultiply(int32_t a, int32_t b)
+{
+    int32_t product = 0;
+    if (__builtin_mul_overflow(a, b, &product))
+        throw AutomationError::RunTime(RunTimeError::Overflow);
+    return product;
+}
+
+namespace {
+
+int32_t CheckedLong(double value)
+{
+    const double rounded = std::nearbyint(value);
+    if (!(rounded >= double(std::numeric_limits<int32_t>::min()) && rounded <= double(std::numeric_limits<int32_t>::max())))
+        throw AutomationError::RunTime(RunTimeError::Overflow);
+    return int32_t(rounded);
+}
+
+} // namespace
+
+int32_t IntegerDivide(double a, double b)
+{
+    const int32_t dividend = CheckedLong(a);
+    const int32_t divisor = CheckedLong(b);
+    if (divisor == 0)
+        throw AutomationError::RunTime(RunTimeError::DivisionByZero);
+    if (dividend == std::numeric_limits<int32_t>::min() && divisor == -1)
+        throw AutomationError::RunTime(RunTimeError::Overflow);
+    return dividend / divisor;
+}
+
 int32_t RoundToLong(double value)
 {
     if (std::isnan(value))

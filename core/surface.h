@@ -82,6 +82,7 @@ public:
 
     // Window services.
     virtual bool HasFocus() const = 0; // the window with the keyboard focus is this one
+    virtual void SetFocus() = 0; // takes the keyboard focus
     virtual void SetCapture() = 0;
     virtual void ReleaseCapture() = 0; // releases the capture whoever holds it
     virtual PixelPoint ScreenOrigin() const = 0; // client (0, 0) in screen pixels

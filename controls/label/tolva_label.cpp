@@ -1,21 +1,8 @@
 #include "controls/label/tolva_label.h"
-#include "core/automation_error.h"
+#include "core/border_style.h"
 #include "core/parent_menu.h"
 
 namespace tolva {
-
-namespace {
-
-// The surface has no border or the sunken one; like the form's own BorderStyle it refuses any
-// other value with "Invalid property value".
-int16_t SurfaceBorderStyle(int32_t style)
-{
-    if (style != tkLabelBorderStyle::None && style != tkLabelBorderStyle::Inset)
-        throw AutomationError::RunTime(RunTimeError::InvalidPropertyValue);
-    return int16_t(style);
-}
-
-} // namespace
 
 TolvaLabel::TolvaLabel(Surface& surface, ControlSite& site)
     : m_surface(surface)

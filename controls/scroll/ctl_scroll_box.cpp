@@ -1,17 +1,10 @@
 #include "controls/scroll/ctl_scroll_box.h"
-#include "core/automation_error.h"
+#include "core/border_style.h"
 #include "core/surface_fill.h"
 
 namespace tolva {
 
 namespace {
-
-int16_t CheckedBorderStyle(int16_t style)
-{
-    if (style != 0 && style != 1)
-        throw AutomationError::RunTime(RunTimeError::InvalidPropertyValue);
-    return style;
-}
 
 // The largest point size a font object takes.
 constexpr float MaxFontSize = 2160;
@@ -99,7 +92,7 @@ void ctlScrollBox::ReadSurfaceKeys(PropertyBag& bag)
 {
     m_surface.SetBackColor(bag.ReadProperty(u"BackColor", DefaultBackColor).ToColor());
     m_surface.SetEnabled(bag.ReadProperty(u"Enabled", true).ToBool());
-    m_surface.SetBorderStyle(CheckedBorderStyle(bag.ReadProperty(u"BorderStyle", DefaultBorderStyle).ToInt16()));
+    m_surface.SetBorderStyle(SurfaceBorderStyle(bag.ReadProperty(u"BorderStyle", DefaultBorderStyle).ToInt16()));
 }
 
 void ctlScrollBox::WriteSurfaceKeys(PropertyBag& bag) const
@@ -140,7 +133,7 @@ int16_t ctlScrollBox::BorderStyle() const
 
 void ctlScrollBox::SetBorderStyle(int16_t style)
 {
-    m_surface.SetBorderStyle(CheckedBorderStyle(style));
+    m_surface.SetBorderStyle(SurfaceBorderStyle(style));
     m_site.PropertyChanged(u"BorderStyle");
 }
 

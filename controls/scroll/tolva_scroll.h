@@ -8,6 +8,7 @@
 #include "core/surface.h"
 #include "core/timer.h"
 #include <memory>
+#include <optional>
 
 namespace tolva {
 
@@ -109,6 +110,14 @@ private:
     void PositionSlider();
     double SliderTopFor() const;
     int32_t ValueAtSlider() const;
+    // What the track shows when painted plainly: the surface's size and back colour.
+    struct TrackLook {
+        float width;
+        float height;
+        OleColor back;
+        bool operator==(const TrackLook&) const = default;
+    };
+    TrackLook CurrentTrack() const;
     void PaintSurface();
     void StepArrow(bool up);
     void PageTrack(int16_t shift, float x, float y);
@@ -137,6 +146,7 @@ private:
     float m_pressX = 0; // the last press on the track, repeated by a double-click
     float m_pressY = 0;
     int16_t m_pressShift = 0;
+    std::optional<TrackLook> m_paintedTrack; // the plain track on screen, until something else is painted
 
     // The listeners outlive the parts that call them.
     ArrowEvents m_upEvents { *this, true };

@@ -26,7 +26,9 @@ float OnScreen(double twips)
 } // namespace
 
 // Slider geometry. The slider is half as long as a proportional thumb, and at least 6 pixels.
-// Its top is worked out from its old height before it takes the new one.
+// Its top is worked out from its old height before it takes the new one. When the slider stays
+// where it is and the track was last painted as it would be painted now, the screen already
+// shows the result: a list that sets the range for every row it adds draws nothing then.
 void TolvaScroll::PositionSlider()
 {
     const double track = double(m_surface.ScaleHeight()) - m_tlDown.Window().Height() - m_tlUp.Window().Height();
@@ -34,9 +36,21 @@ void TolvaScroll::PositionSlider()
     double height = MinSliderHeight;
     if (range > 0)
         height = std::max<double>(track * (m_largeChange / range) / 2, MinSliderHeight);
-    const double top = SliderTopFor();
-    m_picSlider.Window().Move(0, OnScreen(top), m_tlUp.Window().Width(), OnScreen(height));
+    Surface& slider = m_picSlider.Window();
+    const float top = OnScreen(SliderTopFor());
+    const float width = m_tlUp.Window().Width();
+    const float sliderHeight = OnScreen(height);
+    const bool sliderStays = slider.Left() == 0 && slider.Top() == top && slider.Width() == width
+        && slider.Height() == sliderHeight;
+    if (sliderStays && m_paintedTrack == CurrentTrack())
+        return;
+    slider.Move(0, top, width, sliderHeight);
     PaintSurface();
+}
+
+TolvaScroll::TrackLook TolvaScroll::CurrentTrack() const
+{
+    return TrackLook { m_surface.ScaleWidth(), m_surface.ScaleHeight(), m_surface.BackColor() };
 }
 
 double TolvaScroll::SliderTopFor() const
@@ -65,6 +79,7 @@ int32_t TolvaScroll::ValueAtSlider() const
 void TolvaScroll::PaintSurface()
 {
     PaintBackground(m_surface);
+    m_paintedTrack = CurrentTrack();
 }
 
 void TolvaScroll::OnPaint()
@@ -139,6 +154,7 @@ void TolvaScroll::PaintPageFeedback(bool pagingDown)
     const Surface& slider = m_picSlider.Window();
     const float right = m_surface.ScaleWidth() - OnePixel;
     const OleColor back = m_surface.BackColor();
+    m_paintedTrack.reset();
     FillSurfaceBox(m_surface, 0, m_tlUp.Window().Height(), right, slider.Top(), pagingDown ? back : Black);
     FillSurfaceBox(m_surface, 0, slider.Top() + slider.Height() - OnePixel, right, m_tlDown.Window().Top(),
         pagingDown ? Black : back);
@@ -151,6 +167,7 @@ void TolvaScroll::OnMouseDown(int16_t, int16_t shift, float x, float y)
 
 void TolvaScroll::OnMouseUp(int16_t, int16_t, float, float)
 {
+    m_paintedTrack.reset();
     FillSurfaceBox(m_surface, 0, m_tlUp.Window().Height(), m_surface.ScaleWidth() - OnePixel, m_tlDown.Window().Top(),
         m_surface.BackColor());
     StopRepeat();

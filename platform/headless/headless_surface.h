@@ -27,6 +27,8 @@ public:
     void SetBorderStyle(int16_t style) override;
     void SetAppearance(int16_t appearance) override;
     bool HasFocus() const override { return m_tree.Focus() == this; }
+    // Takes the keyboard focus (LostFocus to the surface that had it, GotFocus here).
+    void SetFocus() override;
     void SetCapture() override { m_tree.SetCapture(this); }
     void ReleaseCapture() override { m_tree.ReleaseCapture(); }
     PixelPoint ScreenOrigin() const override;
@@ -68,8 +70,6 @@ public:
     // Alt plus key: delivered when the key is one of the access keys (letters in either case);
     // returns whether it was.
     bool AccessKey(char16_t key);
-    // Takes the keyboard focus (LostFocus to the surface that had it, GotFocus here).
-    void SetFocus();
 
     // Host requests.
     void Resize(float width, float height); // the container sizes the control; OnResize always

@@ -10,7 +10,7 @@ namespace tolva::headless {
 // A container for tests: answers with the values set in its members and records every call.
 // Without a parent form, Parent() is nullptr. Formatting is the portable en-US engine, whose
 // today is fixed (TestSite::Today) so that tests do not depend on the clock.
-class TestSite final : public ControlSite {
+class TestSite : public ControlSite {
 public:
     static OleDate Today() { return OleDate::FromYmd(2001, 2, 3); }
 

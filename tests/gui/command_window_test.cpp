@@ -108,7 +108,7 @@ TEST_F(CommandOnWindow, ShowsThePushedLookWhileTheLeftButtonIsDown)
 
 TEST_F(CommandOnWindow, ShowsTheFocusMarksWhenFocused)
 {
-    surface.TakeFocus();
+    surface.SetFocus();
     ASSERT_EQ(GetFocus(), surface.Window());
     Pixels look = Look();
     EXPECT_EQ(look.At(1, 1), Black);

@@ -124,7 +124,7 @@ const Scene Scenes[] = {
             SendMessageW(surface.Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(40, 15));
         } },
     { "disabled", [](TolvaCommand& button, WindowSurface&, test::StubSite&) { button.SetEnabled(false); } },
-    { "focused", [](TolvaCommand&, WindowSurface& surface, test::StubSite&) { surface.TakeFocus(); } },
+    { "focused", [](TolvaCommand&, WindowSurface& surface, test::StubSite&) { surface.SetFocus(); } },
     { "default",
         [](TolvaCommand&, WindowSurface& surface, test::StubSite& site) {
             site.displayAsDefault = true;

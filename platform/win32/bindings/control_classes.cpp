@@ -9,10 +9,12 @@ extern const ControlClass TolvaLabelClass;
 extern const ControlClass TolvaScrollClass;
 extern const ControlClass TolvaTabsClass;
 extern const ControlClass TolvaInputClass;
+extern const ControlClass TolvaListClass;
 
 namespace {
-const std::array<const ControlClass*, 5> Classes
-    = { &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass, &TolvaTabsClass, &TolvaInputClass };
+const std::array<const ControlClass*, 6> Classes = {
+    &TolvaCommandClass, &TolvaLabelClass, &TolvaScrollClass, &TolvaTabsClass, &TolvaInputClass, &TolvaListClass
+};
 }
 
 std::span<const ControlClass* const> ControlClasses()

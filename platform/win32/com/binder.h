@@ -4,8 +4,9 @@
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/ole_traits.h"
 #include "platform/win32/com/ole_variant.h"
-#include <algorithm>
 #include <functional>
+#include <initializer_list>
+#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -21,11 +22,19 @@ template <class C, class R, class... A> struct MemberFunction<R (C::*)(A...)> {
 template <class C, class R, class... A>
 struct MemberFunction<R (C::*)(A...) const> : MemberFunction<R (C::*)(A...)> { };
 
+// A method parameter that callers may leave out: its position, the value it then takes, and the
+// enumeration it is typed with, if any.
+struct OptionalParameter {
+    size_t index;
+    std::optional<int32_t> defaultValue = std::nullopt; // none: the type's default
+    const wchar_t* enumName = nullptr;
+};
+
 // Builds binding-table entries for the public members of a core control class. Types, argument
 // counts and conversions follow from the member functions' signatures; an enumeration names
 // its type with Enum(L"tk..."). A parameter taken by non-const reference is [in, out]: what the
-// control leaves in it goes back to the caller's variable. A method's last optionalCount
-// parameters may be left out; the control then gets the type's default value.
+// control leaves in it goes back to the caller's variable. A method's optional parameters are
+// listed with the value a caller who leaves one out stands for.
 template <class Control> class Binder {
 public:
     // A property read by Get and, unless it is read-only, assigned by Let. Extra parameters of
@@ -44,13 +53,16 @@ public:
         return member;
     }
 
-    template <auto Call> static DispatchMember Method(DISPID id, const wchar_t* name, size_t optionalCount = 0)
+    template <auto Call>
+    static DispatchMember Method(DISPID id, const wchar_t* name, std::initializer_list<OptionalParameter> optional = {})
     {
         DispatchMember member = Property<Call>(id, name);
         member.isMethod = true;
-        for (size_t i = member.parameters.size() - std::min(optionalCount, member.parameters.size());
-             i < member.parameters.size(); ++i)
-            member.parameters[i].optional = true;
+        for (const OptionalParameter& p : optional) {
+            member.parameters.at(p.index).optional = true;
+            member.parameters.at(p.index).defaultValue = p.defaultValue;
+            member.parameters.at(p.index).enumName = p.enumName;
+        }
         return member;
     }
 
@@ -84,13 +96,12 @@ private:
 
     template <auto F, size_t I> using Converted = decltype(OleTraits<ArgumentType<F, I>>::From(std::declval<VARIANT>()));
 
-    // The index arguments of F converted from the positional arguments; one left out is the
-    // type's default.
+    // The index arguments of F converted from the positional arguments; one left out takes its
+    // default.
     template <auto F, size_t... I>
     static auto ConvertArguments(const DispatchArguments& arguments, std::index_sequence<I...>)
     {
-        return std::tuple<Converted<F, I>...> { (
-            arguments.Has(I) ? arguments.Convert(I, &OleTraits<ArgumentType<F, I>>::From) : Converted<F, I> {})... };
+        return std::tuple<Converted<F, I>...> { arguments.Convert(I, &OleTraits<ArgumentType<F, I>>::From)... };
     }
 
     // The values of the [in, out] parameters go back to the caller's variables.

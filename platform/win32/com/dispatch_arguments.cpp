@@ -3,9 +3,10 @@
 
 namespace tolva::win32 {
 
-DispatchArguments::DispatchArguments(const DISPPARAMS& params, bool assignment)
+DispatchArguments::DispatchArguments(const DISPPARAMS& params, bool assignment, std::span<const TypeSpec> parameters)
     : m_params(params)
     , m_count(assignment && params.cArgs > 0 ? params.cArgs - 1 : params.cArgs)
+    , m_parameters(parameters)
 { }
 
 bool DispatchArguments::Has(size_t index) const

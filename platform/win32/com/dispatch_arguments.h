@@ -1,8 +1,11 @@
 #pragma once
+#include "platform/win32/com/argument_conversion.h"
 #include "platform/win32/com/com_error.h"
+#include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/windows_api.h"
 #include <cstddef>
 #include <oaidl.h>
+#include <span>
 
 namespace tolva::win32 {
 
@@ -20,10 +23,12 @@ private:
 };
 
 // The arguments of one Invoke in the caller's order (DISPPARAMS holds them last first). For a
-// property assignment the assigned value is apart from the positional (index) arguments.
+// property assignment the assigned value is apart from the positional (index) arguments. An
+// optional parameter that the caller left out, at the end or as a missing argument, takes its
+// default value, or the type's default when it has none.
 class DispatchArguments {
 public:
-    DispatchArguments(const DISPPARAMS& params, bool assignment);
+    DispatchArguments(const DISPPARAMS& params, bool assignment, std::span<const TypeSpec> parameters);
 
     size_t Count() const { return m_count; }
     // Whether argument index was given (optional ones may be left out or passed as missing).
@@ -37,6 +42,14 @@ public:
     // ArgumentError naming that argument.
     template <class F> auto Convert(size_t index, F&& convert) const
     {
+        if (!Has(index)) {
+            if (!m_parameters[index].defaultValue)
+                return decltype(convert(At(index))) {};
+            VARIANT standIn;
+            V_VT(&standIn) = VT_I4;
+            V_I4(&standIn) = m_parameters[index].defaultValue.value();
+            return convert(standIn);
+        }
         return Guard(DispatchIndex(index), [&] { return convert(At(index)); });
     }
     template <class F> auto ConvertValue(F&& convert) const
@@ -56,6 +69,7 @@ private:
 
     const DISPPARAMS& m_params;
     size_t m_count;
+    std::span<const TypeSpec> m_parameters;
 };
 
 } // namespace tolva::win32

@@ -2,6 +2,14 @@
 
 namespace tolva::win32 {
 
+size_t DispatchMember::RequiredParameters() const
+{
+    size_t required = 0;
+    while (required < parameters.size() && !parameters[required].optional)
+        ++required;
+    return required;
+}
+
 const DispatchMember* FindMember(std::span<const DispatchMember> members, DISPID id)
 {
     for (const DispatchMember& member : members)

@@ -1,6 +1,8 @@
 #pragma once
 #include "platform/win32/windows_api.h"
 #include <oaidl.h>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -17,7 +19,8 @@ struct TypeSpec {
     OleType type = OleType::Void;
     const wchar_t* enumName = nullptr; // the enum type of an Int32, if it is one
     bool byReference = false; // a parameter [in, out]: the callee's value goes back to the caller
-    bool optional = false; // a parameter that may be left out: the callee gets the type's default
+    bool optional = false; // a parameter that may be left out
+    std::optional<int32_t> defaultValue = std::nullopt; // what an optional one left out stands for; else the type's default
 };
 
 constexpr TypeSpec Enum(const wchar_t* name)
@@ -37,6 +40,8 @@ struct DispatchMember {
     bool isMethod = false;
     TypeSpec type; // a property's type, a method's result
     std::vector<TypeSpec> parameters; // a method's parameters, a property's index arguments
+    // The number of parameters a caller must pass: those before the first optional one.
+    size_t RequiredParameters() const;
     MemberGetter get = nullptr; // property get, or the method itself
     MemberSetter let = nullptr; // assignment of a value (propput)
     MemberSetter set = nullptr; // assignment of an object reference (propputref)

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/variant.h"
 #include "platform/win32/com/argument_conversion.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/variant_conversion.h"
@@ -66,10 +67,10 @@ template <> struct OleTraits<String> {
 
 template <> struct OleTraits<StringView> : OleTraits<String> { };
 
-// Any value, as the core's Variant (an argument left out is an empty one).
+// Any plain value, as the core's Variant (an argument left out is an empty one).
 template <> struct OleTraits<Variant> {
     static constexpr OleType Type = OleType::Variant;
-    static Variant From(const VARIANT& v) { return FromOleVariant(v); }
+    static Variant From(const VARIANT& v) { return ArgumentVariant(v); }
     static void Put(VARIANT& r, const Variant& v) { ToOleVariant(v, r); }
 };
 

@@ -2,6 +2,7 @@
 #include "core/automation_error.h"
 #include "platform/win32/com/argument_conversion.h"
 #include "platform/win32/com/bstr.h"
+#include "platform/win32/com/com_error.h"
 #include "platform/win32/com/font_conversion.h"
 #include "platform/win32/com/ole_variant.h"
 #include <type_traits>
@@ -39,6 +40,35 @@ void ToOleVariant(const Variant& value, VARIANT& target)
             }
         },
         value.Value());
+}
+
+Variant ArgumentVariant(const VARIANT& value)
+{
+    const VARIANT* v = V_VT(&value) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(&value) : &value;
+    switch (V_VT(v) & ~VT_BYREF) {
+    case VT_EMPTY:
+    case VT_BOOL:
+    case VT_I1:
+    case VT_UI1:
+    case VT_I2:
+    case VT_UI2:
+    case VT_I4:
+    case VT_INT:
+    case VT_UI4:
+    case VT_UINT:
+    case VT_I8:
+    case VT_UI8:
+    case VT_DECIMAL:
+    case VT_R4:
+    case VT_R8:
+    case VT_CY:
+    case VT_DATE:
+    case VT_BSTR:
+        return FromOleVariant(*v);
+    default:
+        break;
+    }
+    throw ComError(DISP_E_TYPEMISMATCH);
 }
 
 Variant FromOleVariant(const VARIANT& value)

@@ -91,7 +91,7 @@ void InPlacePart::UiActivate(bool takeFocus)
     HWND window = Surface().Window();
     HWND focus = GetFocus();
     if (takeFocus && focus != window && !IsChild(window, focus))
-        Surface().TakeFocus();
+        Surface().SetFocus();
 }
 
 HRESULT InPlacePart::GetWindow(HWND* window)

@@ -198,7 +198,7 @@ RECT WindowSurface::PixelRect() const
     return { left, top, left + ToPixels(Width()), top + ToPixels(Height()) };
 }
 
-void WindowSurface::TakeFocus()
+void WindowSurface::SetFocus()
 {
     if (m_window)
         ::SetFocus(m_window);
@@ -327,6 +327,8 @@ void WindowSurface::SetAppearance(int16_t appearance)
 
 void WindowSurface::SetVisible(bool visible)
 {
+    if (visible == Visible())
+        return;
     SurfaceProperties::SetVisible(visible);
     if (m_window)
         ShowWindow(m_window, visible ? SW_SHOWNA : SW_HIDE);
@@ -607,8 +609,17 @@ void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPA
         m_buttonsDown &= int16_t(~button);
         if (SurfaceListener* listener = Listener())
             listener->OnMouseUp(button, shift, x, y);
-        if (!alive.expired() && !m_buttonsDown && GetCapture() == window)
+        if (alive.expired())
+            return;
+        if (!m_buttonsDown && GetCapture() == window)
             ::ReleaseCapture();
+        // A left release over the window, after its MouseUp, is the window's click.
+        if (SurfaceListener* listener = Listener(); listener && button == InputState::LeftButton) {
+            RECT client;
+            GetClientRect(window, &client);
+            if (PtInRect(&client, POINT { GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam) }))
+                listener->OnClick();
+        }
         return;
     default: // a press; a right or middle double click counts as one
         m_buttonsDown |= button;

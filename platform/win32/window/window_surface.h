@@ -62,7 +62,6 @@ public:
         m_dialogCodes = codes;
         m_keepsEnter = keepsEnter;
     }
-    void TakeFocus();
 
     // The text boxes made by CreateTextBox get their windows with this one's.
     void AttachTextBox(EditTextBox* box);
@@ -89,6 +88,7 @@ public:
     void SetVisible(bool visible) override;
     void SetAccessKeys(StringView keys) override;
     bool HasFocus() const override;
+    void SetFocus() override;
     void SetCapture() override;
     void ReleaseCapture() override;
     PixelPoint ScreenOrigin() const override;

@@ -19,6 +19,7 @@ public:
     SurfaceListener* Listener() const { return m_listener; }
 
     bool HasFocus() const override { return false; }
+    void SetFocus() override { }
     void SetCapture() override { }
     void ReleaseCapture() override { }
     PixelPoint ScreenOrigin() const override { return {}; }

@@ -337,6 +337,30 @@ TEST_F(ScrollTest, ThePagedSideOfTheTrackTurnsBlackUntilRelease)
     EXPECT_EQ(surface.WindowPixel(8, 170), back);
 }
 
+// A change that leaves the slider where it is draws nothing: the screen already shows it. Any
+// change of the picture draws, also after the page feedback painted over the track.
+TEST_F(ScrollTest, ARepaintThatWouldShowTheSamePictureIsSkipped)
+{
+    scroll.SetMax(100000); // the slider is at its shortest
+    const int presents = surface.PresentCount();
+    const int sliderPresents = Slider().PresentCount();
+    for (int32_t max = 100001; max < 100100; ++max)
+        scroll.SetMax(max);
+    scroll.SetValue(1);
+    scroll.SetLargeChange(5);
+    EXPECT_EQ(surface.PresentCount(), presents);
+    EXPECT_EQ(Slider().PresentCount(), sliderPresents);
+
+    scroll.SetValue(50000);
+    EXPECT_EQ(surface.PresentCount(), presents + 1);
+    surface.MouseDown(1, 0, 100, 300); // pages up: black above the slider
+    ASSERT_EQ(surface.WindowPixel(8, 60), 0x000000u);
+    scroll.SetLargeChange(5);
+    const ColorRef back = surface.WindowImage().SystemColor(SystemColorIndex(surface.BackColor()));
+    EXPECT_EQ(surface.WindowPixel(8, 60), back);
+    surface.MouseUp(1, 0, 100, 300);
+}
+
 TEST_F(ScrollTest, ADoubleClickOnTheTrackRepeatsTheLastPress)
 {
     scroll.SetLargeChange(10);

@@ -31,6 +31,8 @@ std::wstring Describe(const TypeSpec& t)
         text += L"*";
     if (t.optional)
         text += L" optional";
+    if (t.defaultValue)
+        text += L" = " + std::to_wstring(*t.defaultValue);
     return text;
 }
 
@@ -95,8 +97,16 @@ std::map<std::pair<DISPID, INVOKEKIND>, Declared> DeclaredMembers(ITypeInfo* inf
         Declared declared { NameOf(info, function.memid), Describe(info, function.elemdescFunc.tdesc), {} };
         for (SHORT p = 0; p < function.cParams; ++p) {
             const ELEMDESC& parameter = function.lprgelemdescParam[p];
-            const bool optional = (parameter.paramdesc.wParamFlags & PARAMFLAG_FOPT) != 0;
-            declared.parameters.push_back(Describe(info, parameter.tdesc) + (optional ? L" optional" : L""));
+            std::wstring text = Describe(info, parameter.tdesc);
+            if (parameter.paramdesc.wParamFlags & (PARAMFLAG_FOPT | PARAMFLAG_FHASDEFAULT))
+                text += L" optional";
+            if (parameter.paramdesc.wParamFlags & PARAMFLAG_FHASDEFAULT) {
+                VARIANT value;
+                VariantInit(&value);
+                VariantChangeType(&value, &parameter.paramdesc.pparamdescex->varDefaultValue, 0, VT_I4);
+                text += L" = " + std::to_wstring(V_I4(&value));
+            }
+            declared.parameters.push_back(text);
         }
         members[{ function.memid, function.invkind }] = declared;
     });

@@ -6,6 +6,7 @@ namespace tolva::win32 {
 extern const ControlClass TolvaLabelClass;
 extern const ControlClass TolvaScrollClass;
 extern const ControlClass TolvaTabsClass;
+extern const ControlClass TolvaListClass;
 }
 
 namespace tolva::win32::test {

@@ -4,7 +4,6 @@
 #include "platform/win32/com/error_reporting.h"
 #include "platform/win32/com/ole_variant.h"
 #include "platform/win32/com/type_library.h"
-#include <algorithm>
 
 namespace tolva::win32 {
 
@@ -17,13 +16,11 @@ bool IsObject(const VARIANT& value)
     return type == VT_DISPATCH || type == VT_UNKNOWN;
 }
 
-// Positional arguments must be there unless they are optional, which may be left out at the end
-// or passed as missing.
+// Positional arguments must be there up to the first optional one; an optional one may also be
+// passed as missing.
 HRESULT CheckArguments(const DispatchMember& member, const DispatchArguments& arguments, UINT* argumentError)
 {
-    const auto required = size_t(std::count_if(member.parameters.begin(), member.parameters.end(),
-        [](const TypeSpec& parameter) { return !parameter.optional; }));
-    if (arguments.Count() < required || arguments.Count() > member.parameters.size())
+    if (arguments.Count() < member.RequiredParameters() || arguments.Count() > member.parameters.size())
         return DISP_E_BADPARAMCOUNT;
     for (size_t i = 0; i < arguments.Count(); ++i) {
         if (IsMissing(arguments.At(i)) && !member.parameters[i].optional) {
@@ -128,7 +125,7 @@ HRESULT DispatchPart::Get(const DispatchMember& member, const DISPPARAMS& params
 {
     if (params.cNamedArgs > 0)
         return DISP_E_NONAMEDARGS;
-    DispatchArguments arguments(params, false);
+    DispatchArguments arguments(params, false, member.parameters);
     if (HRESULT hr = CheckArguments(member, arguments, argumentError); FAILED(hr))
         return hr;
     OleVariant value;
@@ -148,7 +145,7 @@ HRESULT DispatchPart::Assign(const DispatchMember& member, WORD flags, const DIS
     // pass it first, and are served too.
     if (params.cNamedArgs > 1 || (params.cNamedArgs == 1 && params.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT))
         return DISP_E_NONAMEDARGS;
-    DispatchArguments arguments(params, true);
+    DispatchArguments arguments(params, true, member.parameters);
     // An object goes to the by-reference setter (also when assigned without Set), anything
     // else to the value setter; Set on a plain property is refused as the languages refuse it.
     MemberSetter setter = nullptr;
