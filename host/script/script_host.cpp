@@ -3,6 +3,7 @@
 #include "host/script/script_site.h"
 #include "host/script/wscript_object.h"
 #include "platform/win32/com/com_error.h"
+#include "platform/win32/com/exception_info.h"
 
 // MinGW's uuid library lacks these two; their values are the published ones.
 extern "C" const IID IID_IActiveScriptParse32
@@ -77,12 +78,10 @@ void ScriptHost::ConnectEvents(IUnknown* source, const std::wstring& prefix)
 bool ScriptHost::Run(const std::wstring& code)
 {
     const size_t errorsBefore = m_errors.size();
-    EXCEPINFO exception = {};
+    // Errors reach the site's OnScriptError; what the parser fills in here is not needed.
+    win32::ExceptionInfo exception;
     HRESULT hr = m_parser->ParseScriptText(
-        code.c_str(), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, &exception);
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
+        code.c_str(), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, exception.Put());
     if (QuitRequested())
         return true;
     if (FAILED(hr) && m_errors.size() == errorsBefore) {

@@ -1,6 +1,7 @@
 #include "host/script/script_site.h"
 #include "host/script/script_host.h"
 #include "platform/win32/com/bstr.h"
+#include "platform/win32/com/exception_info.h"
 #include <cwctype>
 
 namespace tolva::win32 {
@@ -67,16 +68,12 @@ HRESULT ScriptSite::OnScriptError(IActiveScriptError* error)
 void ScriptSite::Report(IActiveScriptError& error)
 {
     ScriptError reported;
-    EXCEPINFO info = {};
-    if (SUCCEEDED(error.GetExceptionInfo(&info))) {
-        if (info.pfnDeferredFillIn)
-            info.pfnDeferredFillIn(&info);
-        reported.code = info.scode ? info.scode : long(0x800A0000u + info.wCode);
-        reported.source = info.bstrSource ? info.bstrSource : L"";
-        reported.description = info.bstrDescription ? info.bstrDescription : L"";
-        SysFreeString(info.bstrSource);
-        SysFreeString(info.bstrDescription);
-        SysFreeString(info.bstrHelpFile);
+    win32::ExceptionInfo info;
+    if (SUCCEEDED(error.GetExceptionInfo(info.Put()))) {
+        const EXCEPINFO& filled = info.Filled();
+        reported.code = info.Code();
+        reported.source = filled.bstrSource ? filled.bstrSource : L"";
+        reported.description = filled.bstrDescription ? filled.bstrDescription : L"";
     }
     if (reported.description.empty()) {
         // Some engines report a bare HRESULT (Wine's VBScript for a division by zero).

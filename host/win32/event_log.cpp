@@ -6,21 +6,14 @@ namespace tolva::host {
 
 EventLog::EventLog()
     : m_file(stdout)
-    , m_owned(false)
 { }
 
 EventLog::EventLog(const String& path)
-    : m_file(_wfopen(reinterpret_cast<const wchar_t*>(path.c_str()), L"wb"))
-    , m_owned(true)
+    : m_owned(_wfopen(reinterpret_cast<const wchar_t*>(path.c_str()), L"wb"))
+    , m_file(m_owned.get())
 {
     if (!m_file)
         throw std::runtime_error("cannot write the log file " + ToUtf8(path));
-}
-
-EventLog::~EventLog()
-{
-    if (m_owned)
-        fclose(m_file);
 }
 
 void EventLog::Write(StringView line)

@@ -1,5 +1,6 @@
 #pragma once
 #include "core/string.h"
+#include "host/win32/file_handle.h"
 #include <cstdio>
 
 namespace tolva::host {
@@ -11,15 +12,14 @@ class EventLog {
 public:
     EventLog(); // standard output
     explicit EventLog(const String& path); // throws std::runtime_error when the file cannot be made
-    ~EventLog();
     EventLog(const EventLog&) = delete;
     EventLog& operator=(const EventLog&) = delete;
 
     void Write(StringView line);
 
 private:
+    FileHandle m_owned; // the named file; empty for standard output
     FILE* m_file;
-    bool m_owned;
 };
 
 } // namespace tolva::host

@@ -131,7 +131,7 @@ void HostForm::ReadFormProperties(const FormObject& definition)
 
 void HostForm::CreateFormWindow(const FormObject& definition)
 {
-    static const win32::WindowClass formClass(L"TolvaHostForm", &HostForm::WindowProc, 0);
+    static const win32::WindowClass formClass(L"TolvaHostForm", &win32::OwnedWindowProcedure<HostForm>, 0);
     const bool hasMenuBar
         = std::any_of(definition.children.begin(), definition.children.end(), [](const FormObject& c) {
               const FormProperty* visible = c.Find(u"Visible");
@@ -150,24 +150,20 @@ void HostForm::UpdateMenuBar()
 {
     if (!m_window)
         return;
-    HMENU bar = nullptr;
+    win32::MenuHandle bar;
     for (const auto& menu : m_menus) {
         if (!menu->Visible())
             continue;
         if (!bar)
-            bar = CreateMenu();
+            bar.reset(CreateMenu());
         const UINT state = menu->Enabled() ? MF_ENABLED : MF_GRAYED;
         if (menu->Items().empty())
-            AppendMenuW(bar, MF_STRING | state, menu->Id(), win32::WidePointer(menu->Caption()));
+            AppendMenuW(bar.get(), MF_STRING | state, menu->Id(), win32::WidePointer(menu->Caption()));
         else
-            AppendMenuW(bar, MF_POPUP | state, reinterpret_cast<UINT_PTR>(menu->CreatePopup()),
-                win32::WidePointer(menu->Caption()));
+            win32::AppendSubmenu(bar.get(), state, menu->CreatePopup(), win32::WidePointer(menu->Caption()));
     }
-    HMENU previous = m_menuBar;
-    m_menuBar = bar;
-    SetMenu(m_window, bar);
-    if (previous)
-        DestroyMenu(previous);
+    SetMenu(m_window, bar.get());
+    m_menuBar = std::move(bar); // the previous bar goes now that the window no longer shows it
     DrawMenuBar(m_window);
 }
 
@@ -334,11 +330,10 @@ void HostForm::PopupMenu(MenuItem& menu, int flags, std::optional<double> x, std
     track |= (flags & 8) ? TPM_RIGHTALIGN : (flags & 4) ? TPM_CENTERALIGN : TPM_LEFTALIGN;
     track |= (flags & 2) ? TPM_RIGHTBUTTON : TPM_LEFTBUTTON;
     win32::ComPtr<IDispatch> keepMenu(&menu);
-    HMENU popup = menu.CreatePopup();
+    const win32::MenuHandle popup = menu.CreatePopup();
     // A pop-up menu closes properly only when its owner is the foreground window.
     SetForegroundWindow(m_window);
-    const UINT chosen = TrackPopupMenuEx(popup, track, at.x, at.y, m_window, nullptr);
-    DestroyMenu(popup);
+    const UINT chosen = TrackPopupMenuEx(popup.get(), track, at.x, at.y, m_window, nullptr);
     if (MenuItem* item = chosen ? FindMenuById(chosen) : nullptr)
         ClickMenu(*item);
 }
@@ -401,31 +396,18 @@ bool HostForm::PreTranslateMessage(MSG& message)
     return false;
 }
 
-LRESULT CALLBACK HostForm::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+void HostForm::Attach(HWND window)
 {
-    if (message == WM_NCCREATE) {
-        auto* created = static_cast<HostForm*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-        created->m_window = window;
-    }
-    auto* form = reinterpret_cast<HostForm*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!form)
-        return DefWindowProcW(window, message, wParam, lParam);
-    if (message == WM_NCDESTROY) {
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        form->m_window = nullptr;
-        if (form->m_menuBar)
-            DestroyMenu(std::exchange(form->m_menuBar, nullptr));
-        return DefWindowProcW(window, message, wParam, lParam);
-    }
-    try {
-        return form->HandleMessage(message, wParam, lParam);
-    } catch (...) {
-        return DefWindowProcW(window, message, wParam, lParam);
-    }
+    m_window = window;
 }
 
-LRESULT HostForm::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+void HostForm::Detach()
+{
+    m_window = nullptr;
+    m_menuBar.reset();
+}
+
+LRESULT HostForm::HandleMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
     case WM_COMMAND:

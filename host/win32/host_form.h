@@ -8,6 +8,7 @@
 #include "host/win32/form_control.h"
 #include "host/win32/in_place_frame.h"
 #include "host/win32/menu_item.h"
+#include "platform/win32/window/window_procedure.h"
 #include <functional>
 #include <memory>
 #include <optional>
@@ -83,8 +84,11 @@ private:
         size_t index;
     };
 
-    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // The window's life, through OwnedWindowProcedure.
+    template <class Owner> friend LRESULT CALLBACK win32::OwnedWindowProcedure(HWND, UINT, WPARAM, LPARAM);
+    void Attach(HWND window);
+    void Detach();
+    LRESULT HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void ReadFormProperties(const FormObject& definition);
     void CreateFormWindow(const FormObject& definition);
     void UpdateMenuBar();
@@ -107,7 +111,7 @@ private:
     float m_clientHeight = 3195;
 
     HWND m_window = nullptr;
-    HMENU m_menuBar = nullptr;
+    win32::MenuHandle m_menuBar;
     win32::ComPtr<InPlaceFrame> m_frame;
     win32::ComPtr<FormAutomation> m_automation;
     std::vector<std::unique_ptr<FormControl>> m_controls;

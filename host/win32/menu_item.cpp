@@ -73,10 +73,11 @@ MenuItem* MenuItem::FindByName(StringView name)
     return nullptr;
 }
 
-HMENU MenuItem::CreatePopup() const
+win32::MenuHandle MenuItem::CreatePopup() const
 {
-    HMENU menu = CreatePopupMenu();
-    AppendItems(menu);
+    win32::MenuHandle menu(CreatePopupMenu());
+    if (menu)
+        AppendItems(menu.get());
     return menu;
 }
 
@@ -89,13 +90,11 @@ void MenuItem::AppendItems(HMENU menu) const
             AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
             continue;
         }
-        UINT flags = MF_STRING | (item->m_enabled ? MF_ENABLED : MF_GRAYED) | (item->m_checked ? MF_CHECKED : 0);
-        UINT_PTR id = item->m_id;
-        if (!item->m_items.empty()) {
-            flags |= MF_POPUP;
-            id = reinterpret_cast<UINT_PTR>(item->CreatePopup());
-        }
-        AppendMenuW(menu, flags, id, win32::WidePointer(item->m_caption));
+        const UINT flags = MF_STRING | (item->m_enabled ? MF_ENABLED : MF_GRAYED) | (item->m_checked ? MF_CHECKED : 0);
+        if (item->m_items.empty())
+            AppendMenuW(menu, flags, item->m_id, win32::WidePointer(item->m_caption));
+        else
+            win32::AppendSubmenu(menu, flags, item->CreatePopup(), win32::WidePointer(item->m_caption));
     }
 }
 

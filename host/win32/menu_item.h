@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/window/menu_handle.h"
 #include "host/form/form_object.h"
 #include "host/win32/dispatch_object.h"
 #include "platform/win32/com/com_ptr.h"
@@ -30,7 +31,7 @@ public:
 
     // A pop-up menu of the visible items, submenus for items with items of their own. The
     // caller destroys it (DestroyMenu takes the submenus along).
-    HMENU CreatePopup() const;
+    win32::MenuHandle CreatePopup() const;
     // The block as it stands now, for saving.
     FormObject ToForm() const;
 

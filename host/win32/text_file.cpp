@@ -1,26 +1,20 @@
 #include "host/win32/text_file.h"
-#include <cstdio>
-#include <memory>
+#include "host/win32/file_handle.h"
 
 namespace tolva::host {
 
 namespace {
 
-struct FileCloser {
-    void operator()(FILE* file) const { fclose(file); }
-};
-using File = std::unique_ptr<FILE, FileCloser>;
-
-File Open(const String& path, const wchar_t* mode)
+FileHandle Open(const String& path, const wchar_t* mode)
 {
-    return File(_wfopen(reinterpret_cast<const wchar_t*>(path.c_str()), mode));
+    return FileHandle(_wfopen(reinterpret_cast<const wchar_t*>(path.c_str()), mode));
 }
 
 } // namespace
 
 std::optional<std::string> ReadTextFile(const String& path, size_t limit)
 {
-    File file = Open(path, L"rb");
+    FileHandle file = Open(path, L"rb");
     if (!file)
         return std::nullopt;
     std::string text;
@@ -35,7 +29,7 @@ std::optional<std::string> ReadTextFile(const String& path, size_t limit)
 
 bool WriteTextFile(const String& path, const std::string& text)
 {
-    File file = Open(path, L"wb");
+    FileHandle file = Open(path, L"wb");
     return file && fwrite(text.data(), 1, text.size(), file.get()) == text.size() && fflush(file.get()) == 0;
 }
 

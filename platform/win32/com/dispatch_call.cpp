@@ -1,6 +1,7 @@
 #include "platform/win32/com/dispatch_call.h"
 #include "core/automation_error.h"
 #include "platform/win32/com/bstr.h"
+#include "platform/win32/com/exception_info.h"
 #include <vector>
 
 namespace tolva::win32 {
@@ -9,20 +10,13 @@ namespace {
 
 constexpr int ObjectDoesNotSupportMember = 438;
 
-[[noreturn]] void ThrowCallFailure(HRESULT hr, EXCEPINFO& info)
+[[noreturn]] void ThrowCallFailure(HRESULT hr, ExceptionInfo& info)
 {
     if (hr == DISP_E_MEMBERNOTFOUND || hr == DISP_E_UNKNOWNNAME)
         throw AutomationError::RunTime(ObjectDoesNotSupportMember);
     if (hr == DISP_E_EXCEPTION) {
-        if (info.pfnDeferredFillIn)
-            info.pfnDeferredFillIn(&info);
-        String source = FromBstr(info.bstrSource);
-        String description = FromBstr(info.bstrDescription);
-        HRESULT code = info.scode ? info.scode : HRESULT(0x800A0000u + info.wCode);
-        SysFreeString(info.bstrSource);
-        SysFreeString(info.bstrDescription);
-        SysFreeString(info.bstrHelpFile);
-        throw AutomationError(code, std::move(source), std::move(description));
+        const EXCEPINFO& filled = info.Filled();
+        throw AutomationError(info.Code(), FromBstr(filled.bstrSource), FromBstr(filled.bstrDescription));
     }
     throw AutomationError(hr, u"TolvaKit", u"Automation error");
 }
@@ -43,9 +37,9 @@ void DispatchCall::Invoke(IDispatch* object, DISPID id, WORD flags, std::span<VA
     // DISPPARAMS wants the last argument first.
     std::vector<VARIANT> reversed(arguments.rbegin(), arguments.rend());
     DISPPARAMS params = { reversed.data(), nullptr, UINT(reversed.size()), 0 };
-    EXCEPINFO info = {};
+    ExceptionInfo info;
     UINT argumentError = 0;
-    HRESULT hr = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, result.Put(), &info, &argumentError);
+    HRESULT hr = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, result.Put(), info.Put(), &argumentError);
     if (FAILED(hr))
         ThrowCallFailure(hr, info);
 }

@@ -1,4 +1,5 @@
 #include "platform/win32/window/edit_text_box.h"
+#include "platform/win32/com/com_ptr.h"
 #include "core/twips_canvas.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/module.h"
@@ -250,19 +251,13 @@ LRESULT CALLBACK EditTextBox::SubclassProc(HWND window, UINT message, WPARAM wPa
     if (!box)
         return DefWindowProcW(window, message, wParam, lParam);
     // An event raised from here may release the control's object.
-    IUnknown* keepAlive = box->m_owner ? box->m_owner->KeepAlive() : nullptr;
-    if (keepAlive)
-        keepAlive->AddRef();
-    LRESULT result = 0;
+    const ComPtr<IUnknown> keepAlive(box->m_owner ? box->m_owner->KeepAlive() : nullptr);
     try {
-        result = box->HandleMessage(message, wParam, lParam);
+        return box->HandleMessage(message, wParam, lParam);
     } catch (...) {
         // Nothing above a window procedure could take the error: the key or click is dropped.
-        result = 0;
+        return 0;
     }
-    if (keepAlive)
-        keepAlive->Release();
-    return result;
 }
 
 LRESULT EditTextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)

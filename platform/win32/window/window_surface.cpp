@@ -42,7 +42,7 @@ void DrawFlatFrame(HDC dc, const RECT& rect)
 
 const wchar_t* WindowSurface::ClassName()
 {
-    static const WindowClass windowClass(L"TolvaKitSurface", &WindowSurface::WindowProc, CS_DBLCLKS);
+    static const WindowClass windowClass(L"TolvaKitSurface", &OwnedWindowProcedure<WindowSurface>, CS_DBLCLKS);
     return windowClass.Name();
 }
 
@@ -183,7 +183,7 @@ void WindowSurface::DestroyWindow()
         ::DestroyWindow(m_window);
 }
 
-void WindowSurface::Forget()
+void WindowSurface::Detach()
 {
     m_window = nullptr;
     m_buttonsDown = 0;
@@ -233,12 +233,33 @@ void WindowSurface::DrawTo(HDC dc, const RECT& bounds)
     GdiCanvas image(nullptr, width, height);
     FillWithColor(image.Dc(), RECT { 0, 0, width, height }, BackColor());
     const std::weak_ptr<int> alive = m_lifetime;
-    RedirectTree(image.Dc(), BorderPixels(), BorderPixels());
-    PaintTree();
-    if (alive.expired())
+    {
+        Redirection toImage(*this, image.Dc(), true, BorderPixels(), BorderPixels());
+        PaintTree();
+    }
+    if (!alive.expired())
+        image.StretchTo(dc, bounds);
+}
+
+WindowSurface::Redirection::Redirection(WindowSurface& surface, HDC dc, bool tree, int32_t x, int32_t y)
+    : m_surface(surface)
+    , m_alive(surface.m_lifetime)
+    , m_tree(tree)
+{
+    if (tree)
+        surface.RedirectTree(dc, x, y);
+    else
+        surface.m_target = Target { dc, x, y };
+}
+
+WindowSurface::Redirection::~Redirection()
+{
+    if (m_alive.expired())
         return;
-    EndRedirectTree();
-    image.StretchTo(dc, bounds);
+    if (m_tree)
+        m_surface.EndRedirectTree();
+    else
+        m_surface.m_target = Target {};
 }
 
 void WindowSurface::RedirectTree(HDC dc, int32_t x, int32_t y)
@@ -422,35 +443,9 @@ std::unique_ptr<Surface> WindowSurface::CreateChild()
     return std::unique_ptr<Surface>(new WindowSurface(this));
 }
 
-LRESULT CALLBACK WindowSurface::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+void WindowSurface::Attach(HWND window)
 {
-    if (message == WM_NCCREATE) {
-        auto* created = static_cast<WindowSurface*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-        created->m_window = window;
-    }
-    auto* surface = reinterpret_cast<WindowSurface*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!surface)
-        return DefWindowProcW(window, message, wParam, lParam);
-    if (message == WM_NCDESTROY) {
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        surface->Forget();
-        return DefWindowProcW(window, message, wParam, lParam);
-    }
-    IUnknown* keepAlive = surface->m_keepAlive;
-    try {
-        if (keepAlive)
-            keepAlive->AddRef();
-        const LRESULT result = surface->HandleMessage(window, message, wParam, lParam);
-        if (keepAlive)
-            keepAlive->Release();
-        return result;
-    } catch (...) {
-        if (keepAlive)
-            keepAlive->Release();
-        // Nothing above a window procedure could take the error.
-        return 0;
-    }
+    m_window = window;
 }
 
 LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -557,20 +552,15 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
 
 void WindowSurface::OnPaintMessage(HWND window)
 {
-    PAINTSTRUCT paint;
-    HDC dc = BeginPaint(window, &paint);
-    const std::weak_ptr<int> alive = m_lifetime;
+    PaintDc dc(window);
     if (SurfaceListener* listener = Listener()) {
-        m_target = Target { dc, 0, 0 };
+        Redirection toPaint(*this, dc.Get(), false);
         listener->OnPaint();
-        if (!alive.expired())
-            m_target = Target {};
     } else {
         RECT client;
         GetClientRect(window, &client);
-        FillWithColor(dc, client, BackColor());
+        FillWithColor(dc.Get(), client, BackColor());
     }
-    EndPaint(window, &paint);
 }
 
 void WindowSurface::OnNcPaintMessage(HWND window)
@@ -578,10 +568,8 @@ void WindowSurface::OnNcPaintMessage(HWND window)
     RECT frame;
     GetWindowRect(window, &frame);
     OffsetRect(&frame, -frame.left, -frame.top);
-    if (HDC dc = GetWindowDC(window)) {
-        DrawFlatFrame(dc, frame);
-        ReleaseDC(window, dc);
-    }
+    if (WholeWindowDc dc(window); dc.Get())
+        DrawFlatFrame(dc.Get(), frame);
 }
 
 void WindowSurface::OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -2,6 +2,7 @@
 #include "platform/win32/window/alt_key_state.h"
 #include "platform/win32/windowless/windowless_surface.h"
 #include "platform/win32/windows_api.h"
+#include "platform/win32/window/window_procedure.h"
 #include <memory>
 #include <objbase.h>
 #include <vector>
@@ -110,7 +111,10 @@ private:
     explicit WindowSurface(WindowSurface* parent);
 
     static const wchar_t* ClassName();
-    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    // The window's life, through OwnedWindowProcedure.
+    template <class Owner> friend LRESULT CALLBACK OwnedWindowProcedure(HWND, UINT, WPARAM, LPARAM);
+    void Attach(HWND window);
+    void Detach(); // the window is gone (destroyed by us or with its parent)
     LRESULT HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnPaintMessage(HWND window);
     void OnNcPaintMessage(HWND window);
@@ -121,12 +125,26 @@ private:
     DWORD BorderStyleBits() const;
     DWORD BorderExStyleBits() const;
     void ApplyBorder();
-    void Forget(); // the window is gone (destroyed by us or with its parent)
     WindowSurface& Root();
     // window is the control's own window or one inside it.
     bool Inside(HWND window);
     void PrintTextBoxes();
     RECT PixelRect() const;
+    // Painting goes to dc instead of the window while this lives, with the children (which have
+    // windows of their own) at their offsets if tree; afterwards, also when a paint handler
+    // throws, to the windows again, unless the surface went meanwhile.
+    class Redirection {
+    public:
+        Redirection(WindowSurface& surface, HDC dc, bool tree, int32_t x = 0, int32_t y = 0);
+        ~Redirection();
+        Redirection(const Redirection&) = delete;
+        Redirection& operator=(const Redirection&) = delete;
+
+    private:
+        WindowSurface& m_surface;
+        std::weak_ptr<int> m_alive;
+        bool m_tree;
+    };
     void RedirectTree(HDC dc, int32_t x, int32_t y);
     void PaintTree();
     void EndRedirectTree();

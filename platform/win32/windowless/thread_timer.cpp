@@ -1,4 +1,5 @@
 #include "platform/win32/windowless/thread_timer.h"
+#include "platform/win32/com/com_ptr.h"
 #include <map>
 
 namespace tolva::win32 {
@@ -56,9 +57,8 @@ void CALLBACK ThreadTimer::OnTimer(HWND, UINT, UINT_PTR id, DWORD)
     if (found == Running().end())
         return;
     ThreadTimer& timer = *found->second;
-    IUnknown* owner = timer.m_owner;
-    if (owner)
-        owner->AddRef();
+    // The handler may release the object that owns the timer.
+    const ComPtr<IUnknown> owner(timer.m_owner);
     try {
         // Copied: the handler may disable or destroy the timer.
         std::function<void()> handler = timer.m_handler;
@@ -67,8 +67,6 @@ void CALLBACK ThreadTimer::OnTimer(HWND, UINT, UINT_PTR id, DWORD)
     } catch (...) {
         // A tick is a host event: nothing may escape into the message loop.
     }
-    if (owner)
-        owner->Release();
 }
 
 } // namespace tolva::win32
