@@ -18,6 +18,7 @@ public:
     AtlControl& operator=(const AtlControl&) = delete;
 
     HWND Window() const { return m_window; } // the control's own, inside the container
+    IDispatch* Dispatch() const { return m_dispatch.Get(); }
     void Put(const wchar_t* property, VARIANT value);
     void Call(const wchar_t* method, VARIANT argument);
 

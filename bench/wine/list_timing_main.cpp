@@ -4,11 +4,13 @@
 // of 1200 x 800 pixels. Prints a table of the results.
 //
 //     tolva_wine_list_bench [rows]        (default 1,000,000)
+#include "bench/wine/hover_cases.h"
 #include "bench/wine/timing.h"
 #include "tests/gui/gui_support.h"
 #include <commctrl.h>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <oleauto.h>
 #include <psapi.h>
 #include <string>
@@ -137,26 +139,16 @@ TimedCase Repaint(const wchar_t* name, HWND window)
 // TolvaList in a container window of ATL: the control, its own window and its IDispatch.
 struct HostedList {
     explicit HostedList(const wchar_t* title)
+        : frame(Frame(title))
+        , control(std::make_unique<AtlControl>(frame, L"TolvaKit.TolvaList", RECT { 0, 0, Width, Height }))
+        , window(control->Window())
+        , dispatch(control->Dispatch())
     {
-        static auto init = reinterpret_cast<BOOL(WINAPI*)()>(
-            reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxWinInit")));
-        static auto getControl = reinterpret_cast<HRESULT(WINAPI*)(HWND, IUnknown**)>(
-            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"atl.dll"), "AtlAxGetControl")));
-        if (!init || !getControl || !init())
-            Check(E_FAIL, "ATL's container");
-        frame = Frame(title);
-        HWND container = CreateWindowExW(0, L"AtlAxWin", L"TolvaKit.TolvaList", WS_CHILD | WS_VISIBLE, 0, 0, Width, Height,
-            frame, nullptr, GetModuleHandleW(nullptr), nullptr);
-        IUnknown* control = nullptr;
-        Check(getControl(container, &control), "AtlAxGetControl");
-        Check(control->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&dispatch)), "IDispatch");
-        control->Release();
-        window = GetWindow(container, GW_CHILD);
         Pump();
     }
     ~HostedList()
     {
-        dispatch->Release();
+        control.reset();
         DestroyWindow(frame);
     }
 
@@ -181,9 +173,10 @@ struct HostedList {
         Pump();
     }
 
-    HWND frame = nullptr;
-    HWND window = nullptr;
-    IDispatch* dispatch = nullptr;
+    HWND frame;
+    std::unique_ptr<AtlControl> control;
+    HWND window;
+    IDispatch* dispatch;
 };
 
 // The system's ListView in report view with the same columns.

@@ -5,6 +5,7 @@
 #include "core/control_site.h"
 #include "core/delegated_properties.h"
 #include "core/mouse_state.h"
+#include "core/paint_buffer.h"
 #include "core/ole_color.h"
 #include "core/property_bag.h"
 #include "core/surface.h"
@@ -98,6 +99,7 @@ private:
     static inline TolvaLabelEvents s_noEvents;
 
     Surface& m_surface;
+    PaintBuffer m_buffer { m_surface };
     ControlSite& m_site;
     TolvaLabelEvents* m_events = &s_noEvents;
 

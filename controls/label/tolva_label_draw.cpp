@@ -26,8 +26,7 @@ int32_t Pixels(double twips)
 } // namespace
 
 // The whole label is drawn off screen in pixels, then copied to the surface in one go. The
-// canvas makes and releases its pens, brushes and fonts inside each call, so repeated paints
-// hold no drawing objects.
+// off-screen image, with the drawing objects it made, is kept for the next paint.
 void TolvaLabel::DrawLabel()
 {
     const double scaleWidth = m_surface.ScaleWidth();
@@ -38,7 +37,7 @@ void TolvaLabel::DrawLabel()
         ScanCaption(m_caption, m_surface); // nothing to show, but the access key still counts
         return;
     }
-    const std::unique_ptr<Canvas> canvas = m_surface.CreateCanvas(bitmapWidth, bitmapHeight);
+    Canvas& canvas = m_buffer.Sized(bitmapWidth, bitmapHeight);
     const int32_t width = Pixels(scaleWidth);
     const int32_t height = Pixels(scaleHeight);
 
@@ -55,21 +54,21 @@ void TolvaLabel::DrawLabel()
         back = m_backColorActive;
         fore = m_foreColorActive;
     }
-    canvas->FillRect(0, 0, width, height, Untranslated(back));
+    canvas.FillRect(0, 0, width, height, Untranslated(back));
 
     const int32_t letterSpacing = m_kerning ? 2 : 0;
-    const int32_t captionWidth = MeasureCaptionText(*canvas, m_surface, m_caption, letterSpacing);
+    const int32_t captionWidth = MeasureCaptionText(canvas, m_surface, m_caption, letterSpacing);
     const double spaceHeight
-        = double(canvas->MeasureText(u" ", ToCanvasFont(m_surface.GetFont())).height) * m_surface.TwipsPerPixelY();
+        = double(canvas.MeasureText(u" ", ToCanvasFont(m_surface.GetFont())).height) * m_surface.TwipsPerPixelY();
     Rect text { 0, RoundToLong(scaleHeight / 30 - spaceHeight / 30 - 1), width, height };
     if (m_alignment == tkLabelAlignment::tkAlignCenter)
         text.left = RoundToLong(scaleWidth / 30 - double(captionWidth) / 2);
     else
         text.left = m_arrowPosition == tkArrowPosition::tkLeft ? 16 : 6;
-    DrawCaptionText(*canvas, m_surface, m_caption, text, letterSpacing, Untranslated(fore));
+    DrawCaptionText(canvas, m_surface, m_caption, text, letterSpacing, Untranslated(fore));
 
     const int32_t glyphY = RoundToLong(scaleHeight / 30 - 3);
-    LinePen pen(*canvas, Untranslated(fore));
+    LinePen pen(canvas, Untranslated(fore));
     switch (m_arrowPosition) {
     case tkArrowPosition::tkLeft:
         DrawArrowGlyph(pen, m_arrowIcon, m_arrowPosition, 4, glyphY);
@@ -84,7 +83,7 @@ void TolvaLabel::DrawLabel()
         break;
     }
 
-    m_surface.Present(*canvas, 0, 0, width, height);
+    m_surface.Present(canvas, 0, 0, width, height);
 }
 
 } // namespace tolva

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/paint_buffer.h"
 #include "controls/list/tk_rows.h"
 #include "controls/list/tolva_list_enums.h"
 #include "controls/list/tolva_list_events.h"
@@ -191,6 +192,7 @@ private:
     static inline TolvaListEvents s_noEvents;
 
     Surface& m_surface;
+    PaintBuffer m_buffer { m_surface };
     ControlSite& m_site;
     TolvaListEvents* m_events = &s_noEvents;
 

@@ -48,20 +48,20 @@ void TolvaList::RedrawList()
         return;
     const int32_t width = std::clamp(PixelX(m_surface.ScaleWidth()), 1, MaxBufferPixels);
     const int32_t height = std::clamp(PixelY(m_surface.ScaleHeight()), 1, MaxBufferPixels);
-    const std::unique_ptr<Canvas> canvas = m_surface.CreateCanvas(width, height);
+    Canvas& canvas = m_buffer.Sized(width, height);
     const CanvasFont font = ToCanvasFont(m_surface.GetFont());
 
-    DrawHeader(*canvas, font);
-    PrintPosition print { DrawRowBands(*canvas), {} };
+    DrawHeader(canvas, font);
+    PrintPosition print { DrawRowBands(canvas), {} };
     int32_t count = VisibleRows();
     if (m_rowCount < CheckedAdd(m_topIndex, count))
         count = CheckedAdd(CheckedSubtract(m_rowCount, m_topIndex), 1);
     for (int32_t i = 0; i < count; ++i)
-        DrawRow(m_topIndex + i, *canvas, font, print);
-    canvas->Line(0, 0, 0, height, TranslateColor(*canvas, m_borderColor));
+        DrawRow(m_topIndex + i, canvas, font, print);
+    canvas.Line(0, 0, 0, height, TranslateColor(canvas, m_borderColor));
     if (m_gridStyle != tkGridStyles::tkNone)
-        DrawGrid(*canvas);
-    m_surface.Present(*canvas, 0, 0, width, height);
+        DrawGrid(canvas);
+    m_surface.Present(canvas, 0, 0, width, height);
 }
 
 // The header strip, drawn within its own height: its background, a rule on its last line, and
