@@ -159,8 +159,11 @@ String DatePicture::GeneralDate(OleDate date)
     String text;
     if (hasDay)
         text = Picture(en_us::ShortDate, date);
-    if (hasTime || !hasDay)
-        text += (hasDay ? u" " : u"") + Picture(en_us::LongTime, date);
+    if (hasTime || !hasDay) {
+        if (hasDay)
+            text += u' ';
+        text += Picture(en_us::LongTime, date);
+    }
     return text;
 }
 
