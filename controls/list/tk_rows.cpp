@@ -25,13 +25,15 @@ void tkRows::Add(StringView data, int32_t before)
     ++m_count;
 }
 
-// Filling a list appends: a full last run is trimmed to its size and a new one begins, so a
-// list filled from the top holds no spare room.
+// Filling a list appends: when a new run begins, the run before the one just filled is trimmed
+// to its size, so a list filled from the top holds little spare room. The run just filled is
+// left as it is, because the texts may come one cell behind the appends (a column made before
+// the rows keeps a spare cell at its end) and its last cell still gets its text.
 void tkRows::Append(StringView data)
 {
     if (m_chunks.empty() || m_chunks.back().Full()) {
-        if (!m_chunks.empty())
-            m_chunks.back().Trim();
+        if (m_chunks.size() >= 2)
+            m_chunks[m_chunks.size() - 2].Trim();
         m_chunks.emplace_back();
         m_starts.push_back(m_count);
     }
