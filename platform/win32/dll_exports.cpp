@@ -4,6 +4,7 @@
 #include "platform/win32/com/error_reporting.h"
 #include "platform/win32/com/module.h"
 #include "platform/win32/com/registration.h"
+#include "platform/win32/pages/page_classes.h"
 #include <olectl.h>
 
 using namespace tolva::win32;
@@ -22,10 +23,12 @@ extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, 
         return E_POINTER;
     *out = nullptr;
     const ControlClass* controlClass = FindControlClass(clsid);
-    if (!controlClass)
+    const PageClass* pageClass = FindPageClass(clsid);
+    if (!controlClass && !pageClass)
         return CLASS_E_CLASSNOTAVAILABLE;
     return Guarded(IID_IClassFactory, [&] {
-        auto factory = ComPtr<ClassFactory>::Adopt(new ClassFactory(*controlClass));
+        auto factory = ComPtr<ClassFactory>::Adopt(controlClass ? new ClassFactory(*controlClass)
+                                                                : new ClassFactory(*pageClass));
         return factory->QueryInterface(iid, out);
     });
 }

@@ -181,16 +181,5 @@ TEST(QuickActivate, SetsTheSiteAndConnectsTheSinksInOneCall)
     command.As<IOleObject>(IID_IOleObject)->SetClientSite(nullptr);
 }
 
-TEST(PropertyPages, TheControlListsNoneYet)
-{
-    test::CommandObject command;
-    auto pages = command.As<ISpecifyPropertyPages>(IID_ISpecifyPropertyPages);
-    ASSERT_TRUE(pages);
-    CAUUID list { 7, reinterpret_cast<GUID*>(1) };
-    ASSERT_EQ(pages->GetPages(&list), S_OK);
-    EXPECT_EQ(list.cElems, 0u);
-    EXPECT_EQ(list.pElems, nullptr);
-}
-
 } // namespace
 } // namespace tolva::win32

@@ -1,8 +1,17 @@
 #include "platform/win32/com/class_factory.h"
 #include "platform/win32/com/control_object.h"
 #include "platform/win32/com/error_reporting.h"
+#include "platform/win32/pages/property_page_object.h"
 
 namespace tolva::win32 {
+
+ClassFactory::ClassFactory(const ControlClass& controlClass)
+    : m_create([&controlClass] { return ControlObject::Create(controlClass); })
+{ }
+
+ClassFactory::ClassFactory(const PageClass& pageClass)
+    : m_create([&pageClass] { return PropertyPageObject::Create(pageClass); })
+{ }
 
 void* ClassFactory::Find(REFIID iid)
 {
@@ -16,7 +25,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** out)
     *out = nullptr;
     if (outer)
         return CLASS_E_NOAGGREGATION;
-    return Guarded(IID_IClassFactory, [&] { return ControlObject::Create(m_class)->QueryInterface(iid, out); });
+    return Guarded(IID_IClassFactory, [&] { return m_create()->QueryInterface(iid, out); });
 }
 
 HRESULT ClassFactory::LockServer(BOOL lock)

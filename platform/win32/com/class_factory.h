@@ -1,17 +1,21 @@
 #pragma once
 #include "platform/win32/com/com_object.h"
+#include "platform/win32/com/com_ptr.h"
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/com/module.h"
+#include <functional>
 #include <unknwn.h>
 
 namespace tolva::win32 {
 
-// Creates the COM objects of one control class. Counts as a live object while a client holds it.
+struct PageClass;
+
+// Creates the COM objects of one control class or property page. Counts as a live object while a
+// client holds it.
 class ClassFactory final : public ComObject<IClassFactory> {
 public:
-    explicit ClassFactory(const ControlClass& controlClass)
-        : m_class(controlClass)
-    { }
+    explicit ClassFactory(const ControlClass& controlClass);
+    explicit ClassFactory(const PageClass& pageClass);
 
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override;
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override;
@@ -21,7 +25,7 @@ protected:
 
 private:
     ModuleReference m_module;
-    const ControlClass& m_class;
+    std::function<ComPtr<IUnknown>()> m_create;
 };
 
 } // namespace tolva::win32

@@ -5,6 +5,7 @@
 #include "platform/win32/com/module.h"
 #include "platform/win32/com/registry_key.h"
 #include "platform/win32/com/type_library.h"
+#include "platform/win32/pages/page_classes.h"
 #include <olectl.h>
 #include <optional>
 
@@ -79,6 +80,16 @@ void RegisterControlClass(HKEY root, const ControlClass& c, const std::wstring& 
     SetKey(root, c.ProgId() + L"\\CurVer", c.VersionedProgId());
 }
 
+// A property page: its class id and server only, so no ProgID creates it.
+void RegisterPageClass(HKEY root, const PageClass& page, const std::wstring& path)
+{
+    const std::wstring clsidKey = L"CLSID\\" + Text(page.clsid);
+    SetKey(root, clsidKey, page.name);
+    RegistryKey server = RegistryKey::Create(root, clsidKey + L"\\InprocServer32");
+    server.SetString(nullptr, path);
+    server.SetString(L"ThreadingModel", L"Apartment");
+}
+
 void RegisterInterface(HKEY root, const IID& iid, const std::wstring& libraryId)
 {
     const std::wstring key = L"Interface\\" + Text(iid);
@@ -125,6 +136,8 @@ void Registration::Register(RegistrationScope scope)
         RegisterInterface(root.Get(), *c->dispatchIid, libraryId);
         RegisterInterface(root.Get(), *c->eventIid, libraryId);
     }
+    for (const PageClass* page : PageClasses())
+        RegisterPageClass(root.Get(), *page, path);
 }
 
 void Registration::Unregister(RegistrationScope scope)
@@ -138,6 +151,8 @@ void Registration::Unregister(RegistrationScope scope)
         DeleteRegistryTree(root.Get(), L"Interface\\" + Text(*c->dispatchIid));
         DeleteRegistryTree(root.Get(), L"Interface\\" + Text(*c->eventIid));
     }
+    for (const PageClass* page : PageClasses())
+        DeleteRegistryTree(root.Get(), L"CLSID\\" + Text(page->clsid));
     // The other architecture's DLL may still be registered for the same type library.
     const std::wstring version = L"TypeLib\\" + libraryId + L"\\" + TypeLibraryVersion;
     DeleteRegistryTree(root.Get(), version + L"\\0\\" + Platform);

@@ -4,7 +4,7 @@
 
 namespace tolva::win32 {
 
-// ISpecifyPropertyPages: the designer's property pages of the control (none yet).
+// ISpecifyPropertyPages: the designer's property pages of the control, in order.
 class PropertyPagesPart final : public PartOf<ISpecifyPropertyPages> {
 public:
     using PartOf::PartOf;
