@@ -7,6 +7,7 @@
 #include "host/form/play_script.h"
 #include "host/script/script_file.h"
 #include "host/win32/code_behind.h"
+#include "host/win32/form_designer.h"
 #include "host/win32/host_form.h"
 #include "host/win32/player.h"
 #include "host/win32/text_file.h"
@@ -84,7 +85,7 @@ int Run(const HostCommandLine& line)
         = line.logPath.empty() ? std::make_unique<host::EventLog>() : std::make_unique<host::EventLog>(line.logPath);
     std::unique_ptr<host::HostForm> form;
     try {
-        form = std::make_unique<host::HostForm>(LoadForm(line.formPath), *log);
+        form = std::make_unique<host::HostForm>(LoadForm(line.formPath), *log, !line.design);
     } catch (const FormSyntaxError& error) {
         Fail(ToUtf8(line.formPath) + ": " + error.what());
         return 2;
@@ -116,6 +117,10 @@ int Run(const HostCommandLine& line)
         }
     }
     form->Show();
+    std::unique_ptr<host::FormDesigner> designer;
+    if (line.design)
+        designer = std::make_unique<host::FormDesigner>(
+            *form, [&] { return SaveForm(*form, line.savePath.empty() ? line.formPath : line.savePath); });
     if (line.closeWhenShown)
         PostMessageW(form->Window(), WM_CLOSE, 0, 0);
     if (player)
@@ -123,6 +128,8 @@ int Run(const HostCommandLine& line)
 
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (designer && designer->PreTranslateMessage(message))
+            continue;
         if (form->PreTranslateMessage(message))
             continue;
         TranslateMessage(&message);

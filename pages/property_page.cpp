@@ -123,6 +123,12 @@ void PropertyPage::OnPaint()
         return;
     auto canvas = m_surface.CreateCanvas(width, height);
     canvas->FillRect(0, 0, width, height, TranslateColor(*canvas, ButtonFace));
+    for (const auto& box : m_textBoxes) {
+        TextBox& field = **box;
+        Rect frame = pixels({ field.Left(), field.Top(), field.Width(), field.Height() });
+        canvas->Frame({ frame.left - 1, frame.top - 1, frame.right + 1, frame.bottom + 1 },
+                      TranslateColor(*canvas, ButtonShadow));
+    }
     for (const FieldPlace& shape : m_shapes) {
         const Rect r = pixels(shape);
         canvas->Line(r.left, r.top, r.right, r.top, TranslateColor(*canvas, ButtonShadow));

@@ -1,4 +1,5 @@
 #include "pages/row_editor.h"
+#include "controls/scroll/tolva_scroll.h"
 
 namespace tolva {
 
@@ -24,6 +25,13 @@ void SetUpArrow(EmbeddedControl<TolvaLabel>& arrow, const FieldPlace& place, int
     arrow->SetArrowIcon(icon);
     arrow->SetArrowPosition(tkArrowPosition::tkEnd);
     arrow->SetBorderStyle(int32_t(tkLabelBorderStyle::Inset));
+    // The scroll bar's arrow colours, given as RGB: the label draws its colours as they are.
+    arrow->SetBackColor(TolvaScroll::DefaultBackColor);
+    arrow->SetBackColorActive(TolvaScroll::DefaultBackColorActive);
+    arrow->SetBackColorPushed(TolvaScroll::DefaultBackColorPushed);
+    arrow->SetForeColor(TolvaScroll::DefaultForeColor);
+    arrow->SetForeColorActive(TolvaScroll::DefaultForeColorActive);
+    arrow->SetForeColorPushed(TolvaScroll::DefaultForeColorPushed);
 }
 
 } // namespace

@@ -44,10 +44,22 @@ else
         shots="$PWD/out/demo-shots/$name"
         mkdir -p "$shots"
         echo "== $name"
+        # A designer tour opens its form in design mode and saves it to out/<name>-saved.frm,
+        # which is then opened in run mode for a last picture.
+        design=()
+        saved="$PWD/out/$name-saved.frm"
+        [[ $name == designer* ]] && design=(/design /save "$(windows_path "$saved")")
         xvfb-run -a -s "-screen 0 1024x768x24" "$wine" explorer /desktop=TolvaDemo,1024x768 \
             "$(windows_path "$bin/TolvaHost.exe")" "$(windows_path "$PWD/examples/$name.frm")" \
             /play "$(windows_path "$PWD/$play")" /shots "$(windows_path "$shots")" \
-            /log "$(windows_path "$PWD/out/demo-events-$name.txt")"
+            /log "$(windows_path "$PWD/out/demo-events-$name.txt")" "${design[@]}"
+        if [[ $name == designer* ]]; then
+            printf 'wait 400\nshot 16-reopened-in-run-mode\n' > "$PWD/out/$name-reopen.play"
+            xvfb-run -a -s "-screen 0 1024x768x24" "$wine" explorer /desktop=TolvaDemo,1024x768 \
+                "$(windows_path "$bin/TolvaHost.exe")" "$(windows_path "$saved")" \
+                /play "$(windows_path "$PWD/out/$name-reopen.play")" /shots "$(windows_path "$shots")" \
+                /log "$(windows_path "$PWD/out/demo-events-$name-reopened.txt")"
+        fi
         echo "   events in out/demo-events-$name.txt, screenshots in out/demo-shots/$name: $(ls "$shots" | tr '\n' ' ')"
     done
 fi

@@ -24,7 +24,7 @@ String* ValueOption(HostCommandLine& line, StringView name)
 const char* HostCommandLine::Usage()
 {
     return "usage: TolvaHost <form.frm> [/log <file>] [/save <out.frm>] [/play <steps>] [/shots <folder>] "
-           "[/close]";
+           "[/close] [/design]";
 }
 
 HostCommandLine HostCommandLine::Parse(const std::vector<String>& arguments)
@@ -38,6 +38,10 @@ HostCommandLine HostCommandLine::Parse(const std::vector<String>& arguments)
         String* target = ValueOption(line, name);
         if (IsOption(argument) && SameIdentifier(name, u"close")) {
             line.closeWhenShown = true;
+            continue;
+        }
+        if (IsOption(argument) && SameIdentifier(name, u"design")) {
+            line.design = true;
             continue;
         }
         if (!target) {

@@ -53,6 +53,7 @@ constexpr Verb Verbs[] = {
     { "keydown", PlayStep::Kind::KeyDown, 1, 1 },
     { "keyup", PlayStep::Kind::KeyUp, 1, 1 },
     { "alt", PlayStep::Kind::Alt, 1, 1 },
+    { "type", PlayStep::Kind::Type, 1, 1 },
     { "wait", PlayStep::Kind::Wait, 1, 1 },
     { "shot", PlayStep::Kind::Shot, 1, 1 },
     { "close", PlayStep::Kind::Close, 0, 0 },
@@ -117,6 +118,7 @@ std::vector<PlayStep> ReadPlayScript(std::string_view text)
         case PlayStep::Kind::KeyDown:
         case PlayStep::Kind::KeyUp:
         case PlayStep::Kind::Alt:
+        case PlayStep::Kind::Type:
             step.target = FromUtf8(words[1]);
             break;
         case PlayStep::Kind::Close:

@@ -18,12 +18,13 @@ struct PlayStep {
         KeyDown, // keydown <name>
         KeyUp, // keyup <name>
         Alt, // alt <key>: the key with Alt held, an access key
+        Type, // type <text>: the characters of a word, as typed
         Wait, // wait <milliseconds>
         Shot, // shot <name>: a PNG picture of the form (and any open menu) named <name>.png
         Close, // close: closes the form
     };
     Kind kind;
-    String target; // a control or form name; a key name; a picture name
+    String target; // a control or form name (or frame, the open property frame); a key name; a text; a picture name
     int32_t x = 0;
     int32_t y = 0;
     int32_t milliseconds = 0;

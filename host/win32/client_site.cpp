@@ -129,7 +129,7 @@ HRESULT ClientSite::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*, VAR
     HostForm& form = m_control->Form();
     switch (id) {
     case DISPID_AMBIENT_USERMODE:
-        win32::PutBool(*result, true);
+        win32::PutBool(*result, form.UserMode());
         return S_OK;
     case DISPID_AMBIENT_DISPLAYASDEFAULT:
         win32::PutBool(*result, m_control->IsDefault());

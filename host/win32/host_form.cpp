@@ -65,8 +65,9 @@ void CollectMenus(MenuItem& menu, std::vector<IDispatch*>& objects)
 
 } // namespace
 
-HostForm::HostForm(const FormObject& definition, EventLog& log)
+HostForm::HostForm(const FormObject& definition, EventLog& log, bool userMode)
     : m_log(log)
+    , m_userMode(userMode)
     , m_definition(definition.type, definition.name, definition.line)
     , m_name(definition.name)
     , m_caption(definition.name)
@@ -432,6 +433,8 @@ LRESULT HostForm::HandleMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam
         GetClientRect(m_window, &client);
         win32::GdiObject<HBRUSH> brush(CreateSolidBrush(ToRgb(m_backColor)));
         FillRect(reinterpret_cast<HDC>(wParam), &client, brush.Get());
+        if (m_backgroundPainter)
+            m_backgroundPainter(reinterpret_cast<HDC>(wParam));
         return 1;
     }
     case WM_CLOSE:

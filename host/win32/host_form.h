@@ -23,8 +23,9 @@ namespace tolva::host {
 class HostForm {
 public:
     // Creates the window (hidden), the menus and the controls. Throws FormSyntaxError with the
-    // line and reason for a block it cannot host.
-    HostForm(const FormObject& definition, EventLog& log);
+    // line and reason for a block it cannot host. The controls see userMode as the ambient
+    // UserMode: False when the form is being designed.
+    HostForm(const FormObject& definition, EventLog& log, bool userMode = true);
     ~HostForm();
     HostForm(const HostForm&) = delete;
     HostForm& operator=(const HostForm&) = delete;
@@ -34,6 +35,9 @@ public:
     void SetClosingHandler(std::function<void()> closing) { m_closing = std::move(closing); }
     // The thread's message loop ends when the window is destroyed.
     void SetQuitOnClose(bool quit) { m_quitOnClose = quit; }
+    // Draws over the form's background, under the controls (a designer's selection).
+    void SetBackgroundPainter(std::function<void(HDC)> painter) { m_backgroundPainter = std::move(painter); }
+    bool UserMode() const { return m_userMode; }
 
     // Shows the window, activates the controls in place and focuses the first in tab order.
     void Show();
@@ -100,6 +104,8 @@ private:
     EventHandlers* m_handlers = nullptr;
     std::function<void()> m_closing;
     bool m_quitOnClose = false;
+    bool m_userMode = true;
+    std::function<void(HDC)> m_backgroundPainter;
 
     FormObject m_definition; // the form's own block, without children
     String m_name;

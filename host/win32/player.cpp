@@ -2,6 +2,7 @@
 #include "host/form/form_syntax_error.h"
 #include "host/form/png_encoder.h"
 #include "host/win32/host_form.h"
+#include "host/win32/property_frame.h"
 #include "host/win32/screen_pixels.h"
 #include "host/win32/text_file.h"
 #include "platform/win32/com/bstr.h"
@@ -70,6 +71,22 @@ void SendKey(WORD key, bool up)
     SendInput(1, &input, sizeof input);
 }
 
+// A character as typed, whatever the keyboard layout.
+void SendCharacter(char16_t c)
+{
+    INPUT input[2] {};
+    for (INPUT& part : input) {
+        part.type = INPUT_KEYBOARD;
+        part.ki.wScan = c;
+        part.ki.dwFlags = KEYEVENTF_UNICODE;
+    }
+    input[1].ki.dwFlags |= KEYEVENTF_KEYUP;
+    SendInput(2, input, sizeof(INPUT));
+}
+
+// The target name of the open property frame.
+constexpr StringView FrameTarget = u"frame";
+
 void SendMouse(DWORD flags)
 {
     INPUT input {};
@@ -90,11 +107,13 @@ void MovePointer(POINT at)
     SendInput(1, &input, sizeof input);
 }
 
+// Pictures take in the open menus and the property frame.
 BOOL CALLBACK AddMenuRect(HWND window, LPARAM area)
 {
-    wchar_t className[16] = {};
-    GetClassNameW(window, className, 16);
-    if (IsWindowVisible(window) && std::wstring_view(className) == L"#32768") {
+    wchar_t className[64] = {};
+    GetClassNameW(window, className, 64);
+    const std::wstring_view name(className);
+    if (IsWindowVisible(window) && (name == L"#32768" || name == PropertyFrame::WindowClass)) {
         RECT menu;
         GetWindowRect(window, &menu);
         UnionRect(reinterpret_cast<RECT*>(area), reinterpret_cast<RECT*>(area), &menu);
@@ -123,7 +142,8 @@ Player::Player(HostForm& form, std::vector<PlayStep> steps, String shotsFolder)
     }
     for (const PlayStep& step : m_steps) {
         const bool pointer = step.kind == PlayStep::Kind::Move || step.kind == PlayStep::Kind::Click;
-        if (pointer && !SameIdentifier(step.target, m_form.Name()) && !m_form.FindControl(step.target))
+        if (pointer && !SameIdentifier(step.target, m_form.Name()) && !SameIdentifier(step.target, FrameTarget)
+            && !m_form.FindControl(step.target))
             throw FormSyntaxError(step.line, "the form has no control " + ToUtf8(step.target));
         const bool key = step.kind == PlayStep::Kind::Key || step.kind == PlayStep::Kind::KeyDown
             || step.kind == PlayStep::Kind::KeyUp || step.kind == PlayStep::Kind::Alt;
@@ -203,6 +223,9 @@ POINT Player::ScreenPoint(const PlayStep& step) const
     POINT at { step.x, step.y };
     FormControl* control = m_form.FindControl(step.target);
     HWND window = control && control->Window() ? control->Window() : m_form.Window();
+    if (SameIdentifier(step.target, FrameTarget))
+        if (HWND frame = FindWindowW(PropertyFrame::WindowClass, nullptr))
+            window = frame;
     ClientToScreen(window, &at);
     return at;
 }
@@ -235,6 +258,10 @@ void Player::Execute(const PlayStep& step)
         SendKey(VirtualKey(step.target), false);
         SendKey(VirtualKey(step.target), true);
         SendKey(VK_MENU, true);
+        break;
+    case PlayStep::Kind::Type:
+        for (char16_t c : step.target)
+            SendCharacter(c);
         break;
     case PlayStep::Kind::Wait:
         break;

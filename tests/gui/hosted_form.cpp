@@ -42,8 +42,8 @@ std::vector<std::string> EventLogFile::Lines() const
     return lines;
 }
 
-HostedForm::HostedForm(std::string_view formText)
-    : m_form(std::make_unique<host::HostForm>(FormReader::Read(formText), m_log.Log()))
+HostedForm::HostedForm(std::string_view formText, bool userMode)
+    : m_form(std::make_unique<host::HostForm>(FormReader::Read(formText), m_log.Log(), userMode))
 {
     m_form->Show();
     PumpFor(30);

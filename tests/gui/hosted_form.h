@@ -23,10 +23,10 @@ private:
 };
 
 // A form of the form host built from form-file text, shown, with its event log in a file of its
-// own that the test reads back.
+// own that the test reads back; in design mode when userMode is false.
 class HostedForm {
 public:
-    explicit HostedForm(std::string_view formText);
+    explicit HostedForm(std::string_view formText, bool userMode = true);
     ~HostedForm();
 
     host::HostForm& Form() { return *m_form; }

@@ -13,19 +13,21 @@ HostCommandLine Parse(std::vector<String> arguments)
 TEST(HostCommandLine, TakesTheFormAndEveryOptionInAnyOrder)
 {
     HostCommandLine line = Parse({ u"/SAVE", u"out.frm", u"demo.frm", u"-log", u"events.txt", u"/play", u"steps.txt",
-        u"/shots", u"shots", u"/Close" });
+        u"/shots", u"shots", u"/Close", u"-Design" });
     EXPECT_EQ(line.formPath, u"demo.frm");
     EXPECT_EQ(line.savePath, u"out.frm");
     EXPECT_EQ(line.logPath, u"events.txt");
     EXPECT_EQ(line.playPath, u"steps.txt");
     EXPECT_EQ(line.shotsFolder, u"shots");
     EXPECT_TRUE(line.closeWhenShown);
+    EXPECT_TRUE(line.design);
 }
 
 TEST(HostCommandLine, TakesAnAbsoluteUnixPathForTheForm)
 {
     EXPECT_EQ(Parse({ u"/home/me/demo.frm" }).formPath, u"/home/me/demo.frm");
     EXPECT_FALSE(Parse({ u"demo.frm" }).closeWhenShown);
+    EXPECT_FALSE(Parse({ u"demo.frm" }).design);
 }
 
 TEST(HostCommandLine, RefusesWhatItCannotFollow)

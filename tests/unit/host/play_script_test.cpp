@@ -17,10 +17,11 @@ TEST(PlayScript, ReadsEveryKindOfStep)
                                       "keydown Space\n"
                                       "keyup Space\n"
                                       "alt O\n"
+                                      "type &Pay\n"
                                       "wait 250\n"
                                       "shot 01-hot_button\n"
                                       "close\n");
-    ASSERT_EQ(steps.size(), 11u);
+    ASSERT_EQ(steps.size(), 12u);
     EXPECT_EQ(steps[0].kind, PlayStep::Kind::Move);
     EXPECT_EQ(steps[0].target, u"cmdOK");
     EXPECT_EQ(steps[0].x, 10);
@@ -32,9 +33,10 @@ TEST(PlayScript, ReadsEveryKindOfStep)
     EXPECT_EQ(steps[3].x, -1);
     EXPECT_EQ(steps[4].target, u"Enter");
     EXPECT_EQ(steps[7].kind, PlayStep::Kind::Alt);
-    EXPECT_EQ(steps[8].milliseconds, 250);
-    EXPECT_EQ(steps[9].target, u"01-hot_button");
-    EXPECT_EQ(steps[10].kind, PlayStep::Kind::Close);
+    EXPECT_EQ(steps[8].target, u"&Pay");
+    EXPECT_EQ(steps[9].milliseconds, 250);
+    EXPECT_EQ(steps[10].target, u"01-hot_button");
+    EXPECT_EQ(steps[11].kind, PlayStep::Kind::Close);
 }
 
 TEST(PlayScript, RefusesBadLinesWithTheirNumber)
