@@ -1,5 +1,6 @@
 #include "host/win32/property_frame.h"
 #include "platform/win32/com/com_object.h"
+#include "platform/win32/window/window_class.h"
 #include <algorithm>
 
 namespace tolva::host {
@@ -110,16 +111,7 @@ void PropertyFrame::LoadPages()
 
 void PropertyFrame::CreateFrameWindow()
 {
-    static const ATOM atom = [] {
-        WNDCLASSW windowClass {};
-        windowClass.lpfnWndProc = &PropertyFrame::WindowProc;
-        windowClass.hInstance = GetModuleHandleW(nullptr);
-        windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        windowClass.hbrBackground = HBRUSH(COLOR_BTNFACE + 1);
-        windowClass.lpszClassName = WindowClass;
-        return RegisterClassW(&windowClass);
-    }();
-    (void)atom;
+    static const win32::WindowClass frameClass(WindowClass, &win32::OwnedWindowProcedure<PropertyFrame>, 0);
     SIZE area {};
     for (const Page& page : m_pages) {
         area.cx = std::max(area.cx, page.size.cx);
@@ -133,9 +125,9 @@ void PropertyFrame::CreateFrameWindow()
     AdjustWindowRectEx(&outer, style, FALSE, WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT);
     RECT owner {};
     GetWindowRect(m_owner, &owner);
-    m_window = CreateWindowExW(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, WindowClass, m_caption.c_str(), style,
-                               owner.left + 40, owner.top + 40, outer.right - outer.left, outer.bottom - outer.top,
-                               m_owner, nullptr, GetModuleHandleW(nullptr), this);
+    CreateWindowExW(WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, frameClass.Name(), m_caption.c_str(), style,
+                    owner.left + 40, owner.top + 40, outer.right - outer.left, outer.bottom - outer.top, m_owner, nullptr,
+                    GetModuleHandleW(nullptr), this);
     m_font = HFONT(GetStockObject(DEFAULT_GUI_FONT));
     for (size_t i = 0; i < m_pages.size(); ++i)
         CreateButton(m_window, m_pages[i].title, FirstPageButton + int(i), Margin + int(i) * (ButtonWidth + 4), Margin, m_font);
@@ -213,17 +205,7 @@ void PropertyFrame::OnStatusChange()
         EnableWindow(m_apply, TRUE);
 }
 
-LRESULT CALLBACK PropertyFrame::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message == WM_NCCREATE)
-        SetWindowLongPtrW(window, GWLP_USERDATA, LONG_PTR(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
-    auto* frame = reinterpret_cast<PropertyFrame*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!frame || !frame->m_window)
-        return DefWindowProcW(window, message, wParam, lParam);
-    return frame->HandleMessage(message, wParam, lParam);
-}
-
-LRESULT PropertyFrame::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT PropertyFrame::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
     case WM_COMMAND: {
@@ -243,8 +225,14 @@ LRESULT PropertyFrame::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CLOSE:
         m_closed = true;
         return 0;
+    case WM_ERASEBKGND: {
+        RECT client;
+        GetClientRect(window, &client);
+        FillRect(HDC(wParam), &client, GetSysColorBrush(COLOR_BTNFACE));
+        return 1;
+    }
     default:
-        return DefWindowProcW(m_window, message, wParam, lParam);
+        return DefWindowProcW(window, message, wParam, lParam);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/window/window_procedure.h"
 #include "platform/win32/windows_api.h"
 #include <ocidl.h>
 #include <string>
@@ -38,8 +39,11 @@ private:
         SIZE size {};
     };
 
-    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // The window's life, through OwnedWindowProcedure.
+    template <class Owner> friend LRESULT CALLBACK win32::OwnedWindowProcedure(HWND, UINT, WPARAM, LPARAM);
+    void Attach(HWND window) { m_window = window; }
+    void Detach() { m_window = nullptr; }
+    LRESULT HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void LoadPages();
     void CreateFrameWindow();
     void ShowPage(size_t index);

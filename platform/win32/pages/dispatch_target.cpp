@@ -2,6 +2,7 @@
 #include "core/automation_error.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_error.h"
+#include "platform/win32/com/exception_info.h"
 #include "platform/win32/com/ole_variant.h"
 #include "platform/win32/com/variant_conversion.h"
 #include <vector>
@@ -42,19 +43,6 @@ private:
     std::vector<VARIANT> m_values;
 };
 
-// EXCEPINFO's strings, freed however the call ended.
-struct ExceptionInfo : EXCEPINFO {
-    ExceptionInfo() : EXCEPINFO {} { }
-    ~ExceptionInfo()
-    {
-        SysFreeString(bstrSource);
-        SysFreeString(bstrDescription);
-        SysFreeString(bstrHelpFile);
-    }
-    ExceptionInfo(const ExceptionInfo&) = delete;
-    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
-};
-
 } // namespace
 
 DispatchTarget::DispatchTarget(IDispatch* object)
@@ -91,12 +79,10 @@ Variant DispatchTarget::Invoke(StringView name, WORD flags, const std::vector<Va
     OleVariant result;
     ExceptionInfo exception;
     const HRESULT hr = m_object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
-                                        flags == DISPATCH_PROPERTYGET ? result.Put() : nullptr, &exception, nullptr);
+                                        flags == DISPATCH_PROPERTYGET ? result.Put() : nullptr, exception.Put(), nullptr);
     if (hr == DISP_E_EXCEPTION) {
-        if (exception.pfnDeferredFillIn)
-            exception.pfnDeferredFillIn(&exception);
-        throw AutomationError(exception.scode ? exception.scode : int32_t(0x80040000u + exception.wCode),
-                              FromBstr(exception.bstrSource), FromBstr(exception.bstrDescription));
+        const EXCEPINFO& filled = exception.Filled();
+        throw AutomationError(exception.Code(), FromBstr(filled.bstrSource), FromBstr(filled.bstrDescription));
     }
     ThrowIfFailed(hr);
     return FromOleVariant(result.Get());
