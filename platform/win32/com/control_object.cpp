@@ -106,11 +106,15 @@ void ControlObject::OnPropertyChanged(StringView key)
 {
     m_dirty = true;
     try {
+        // A fill changes a property per cell: without sinks there is nobody to look the id up for.
+        const std::vector<ComPtr<IUnknown>> sinks = m_notifications.Sinks();
+        if (sinks.empty())
+            return;
         String name(key);
         const DispatchMember* member = FindMember(m_class.members, reinterpret_cast<const wchar_t*>(name.c_str()));
         DISPID id = member ? member->id : DISPID_UNKNOWN;
         ComPtr<IUnknown> keepAlive(this);
-        for (const ComPtr<IUnknown>& sink : m_notifications.Sinks())
+        for (const ComPtr<IUnknown>& sink : sinks)
             static_cast<IPropertyNotifySink*>(sink.Get())->OnChanged(id);
     } catch (...) {
         // Designer notifications are advisory.
