@@ -1,5 +1,6 @@
 #pragma once
 #include "core/string.h"
+#include <cmath>
 #include <cstdint>
 
 namespace tolva {
@@ -20,5 +21,19 @@ struct Font {
 
     bool operator==(const Font&) const = default;
 };
+
+// A font object keeps its size as points x 10,000 in 32 bits.
+constexpr double MaxKeptFontSize = 429496.7295;
+
+// size as a font object keeps it: to four decimals, from 0 to MaxKeptFontSize (the nearer end for
+// anything outside, 0 for what is not a number).
+inline double KeptFontSize(double size)
+{
+    if (!(size > 0))
+        return 0;
+    if (size >= MaxKeptFontSize)
+        return MaxKeptFontSize;
+    return double(std::llround(size * 10000.0)) / 10000.0;
+}
 
 } // namespace tolva

@@ -219,8 +219,11 @@ String Variant::ToString() const
 
 Font Variant::ToFont() const
 {
-    if (const auto* font = std::get_if<Font>(&m_value))
-        return *font;
+    if (const auto* font = std::get_if<Font>(&m_value)) {
+        Font kept = *font;
+        kept.size = KeptFontSize(font->size);
+        return kept;
+    }
     ThrowTypeMismatch();
 }
 

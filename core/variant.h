@@ -41,7 +41,7 @@ public:
     double ToDouble() const;
     Currency ToCurrency() const;
     String ToString() const;
-    Font ToFont() const; // only a font converts to a font
+    Font ToFont() const; // only a font converts to a font, its size as a font object keeps it
 
     bool operator==(const Variant&) const = default;
 

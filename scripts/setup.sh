@@ -5,6 +5,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config libgtest-dev libgmock-dev libbenchmark-dev
+    clang libclang-rt-14-dev
     libfreetype-dev libpng-dev fonts-dejavu-core fonts-liberation
     g++-mingw-w64-x86-64 g++-mingw-w64-i686 mingw-w64-tools libwine-dev
     wine64 wine xvfb xauth x11-apps

@@ -1,6 +1,7 @@
 #include "platform/win32/com/argument_conversion.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_error.h"
+#include "platform/win32/com/com_ptr.h"
 #include "platform/win32/com/ole_variant.h"
 #include <utility>
 
@@ -8,11 +9,53 @@ namespace tolva::win32 {
 
 namespace {
 
+// How many default values deep an object argument is followed. A client object whose default
+// value is itself (or a longer cycle) would otherwise recurse the conversion to death.
+constexpr int MaxObjectDepth = 8;
+
+bool IsObjectType(VARTYPE type)
+{
+    type &= ~VT_BYREF;
+    return type == VT_DISPATCH || type == VT_UNKNOWN;
+}
+
+// The value with every object replaced by its default value, followed at most MaxObjectDepth
+// objects deep; a value that is not an object is copied as it is (by-reference values
+// dereferenced).
+void DefaultValueOf(OleVariant& result, const VARIANT& value)
+{
+    ThrowIfFailed(VariantCopyInd(result.Put(), const_cast<VARIANT*>(&value)));
+    for (int depth = 0; IsObjectType(result.Type()); ++depth) {
+        IUnknown* object = result.Type() == VT_DISPATCH ? V_DISPATCH(&result.Get()) : V_UNKNOWN(&result.Get());
+        ComPtr<IDispatch> dispatch = ComPtr<IUnknown>(object).As<IDispatch>(IID_IDispatch);
+        if (!dispatch || depth == MaxObjectDepth)
+            throw ComError(DISP_E_TYPEMISMATCH);
+        OleVariant fetched;
+        DISPPARAMS none = {};
+        if (FAILED(dispatch->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
+                fetched.Put(), nullptr, nullptr)))
+            throw ComError(DISP_E_TYPEMISMATCH);
+        ThrowIfFailed(VariantCopyInd(result.Put(), &fetched.Get()));
+    }
+}
+
+// value converted to type with flags. An object argument is first reduced to its default value
+// here, with a bounded depth, rather than by VariantChangeType, which follows it without bound.
+HRESULT ChangeType(OleVariant& result, const VARIANT& value, USHORT flags, VARTYPE type)
+{
+    const VARIANT& v = Referenced(value);
+    if (!IsObjectType(V_VT(&v)))
+        return VariantChangeType(result.Put(), const_cast<VARIANT*>(&v), flags, type);
+    OleVariant plain;
+    DefaultValueOf(plain, v);
+    return VariantChangeType(result.Put(), &plain.Get(), flags, type);
+}
+
 // The value converted to type; VARIANT_ALPHABOOL writes booleans as "True"/"False" as the
 // languages do.
 void Change(OleVariant& result, const VARIANT& value, VARTYPE type)
 {
-    ThrowIfFailed(VariantChangeType(result.Put(), const_cast<VARIANT*>(&value), VARIANT_ALPHABOOL, type));
+    ThrowIfFailed(ChangeType(result, value, VARIANT_ALPHABOOL, type));
 }
 
 } // namespace
@@ -76,7 +119,7 @@ String ToText(const VARIANT& value)
 OleColor ToColor(const VARIANT& value)
 {
     OleVariant v;
-    HRESULT hr = VariantChangeType(v.Put(), const_cast<VARIANT*>(&value), 0, VT_I4);
+    HRESULT hr = ChangeType(v, value, 0, VT_I4);
     if (hr == DISP_E_OVERFLOW) {
         // Past the Long range: an unsigned value such as JScript's 0x8000000F.
         Change(v, value, VT_UI4);
@@ -140,10 +183,18 @@ void PutText(VARIANT& target, StringView value)
     V_BSTR(&target) = text.Detach();
 }
 
-bool IsMissing(const VARIANT& value)
+const VARIANT& Referenced(const VARIANT& value)
 {
     const VARIANT* v = V_VT(&value) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(&value) : &value;
-    return V_VT(v) == VT_ERROR && V_ERROR(v) == DISP_E_PARAMNOTFOUND;
+    if (!v || ((V_VT(v) & VT_BYREF) && !V_BYREF(v)) || V_VT(v) == (VT_BYREF | VT_VARIANT))
+        throw ComError(DISP_E_TYPEMISMATCH);
+    return *v;
+}
+
+bool IsMissing(const VARIANT& value)
+{
+    const VARIANT& v = Referenced(value);
+    return V_VT(&v) == VT_ERROR && V_ERROR(&v) == DISP_E_PARAMNOTFOUND;
 }
 
 void PutBack(const VARIANT& argument, const VARIANT& value)

@@ -37,6 +37,11 @@ void PutCurrency(VARIANT& target, Currency value);
 void PutDate(VARIANT& target, OleDate value);
 void PutText(VARIANT& target, StringView value);
 
+// The value an argument stands for: what a VT_BYREF|VT_VARIANT refers to, or the argument
+// itself. A by-reference value without its reference, or a reference to another reference,
+// throws ComError with DISP_E_TYPEMISMATCH.
+const VARIANT& Referenced(const VARIANT& value);
+
 // True for an omitted optional argument (VT_ERROR holding DISP_E_PARAMNOTFOUND).
 bool IsMissing(const VARIANT& value);
 

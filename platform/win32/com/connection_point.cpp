@@ -57,6 +57,7 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie)
         return E_POINTER;
     *cookie = 0;
     return Guarded(IID_IConnectionPoint, [&] {
+        ComPtr<IUnknown> keepAlive(&m_owner); // a sink may release the object from its QueryInterface
         ComPtr<IUnknown> typed;
         if (FAILED(sink->QueryInterface(m_iid, typed.PutVoid())) && m_acceptDispatch)
             sink->QueryInterface(IID_IDispatch, typed.PutVoid());
@@ -74,7 +75,9 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie)
         m_connections.begin(), m_connections.end(), [cookie](const Connection& c) { return c.cookie == cookie; });
     if (found == m_connections.end())
         return CONNECT_E_NOCONNECTION;
-    // Released after leaving the list: the sink's release may call back into this object.
+    // Released after leaving the list: the sink's release may call back into this object, and
+    // may release it.
+    ComPtr<IUnknown> keepAlive(&m_owner);
     ComPtr<IUnknown> sink = std::move(found->sink);
     m_connections.erase(found);
     return S_OK;

@@ -18,7 +18,7 @@ ControlObject::ControlObject(const ControlClass& controlClass)
           FromWide(controlClass.DefaultInstanceName()), *m_surface, [this](StringView key) { OnPropertyChanged(key); })
     , m_events(*this, *controlClass.eventIid, true)
     , m_notifications(*this, IID_IPropertyNotifySink, false)
-    , m_font([this](const Font& font) { m_control->SetFont(font); })
+    , m_font(*this, [this](const Font& font) { m_control->SetFont(font); })
     , m_control(controlClass.create(*m_surface, m_site, this))
     , m_parts(CreateObjectParts(*this))
 {
@@ -57,8 +57,12 @@ ULONG ControlObject::AddRef()
 ULONG ControlObject::Release()
 {
     LONG left = InterlockedDecrement(&m_references);
-    if (left == 0)
+    if (left == 0) {
+        // Whatever the destruction releases may hold and release the object once more; it
+        // must not count down to zero again.
+        m_references = Destroying;
         delete this;
+    }
     return ULONG(left);
 }
 

@@ -2,6 +2,7 @@
 #include "core/surface.h"
 #include "platform/win32/com/connection_point.h"
 #include "platform/win32/com/control_class.h"
+#include "platform/win32/com/error_reporting.h"
 #include "platform/win32/com/event_raiser.h"
 #include "platform/win32/com/live_font.h"
 #include "platform/win32/com/module.h"
@@ -65,6 +66,8 @@ private:
     void Raise(DISPID id, std::span<VARIANT> arguments) override;
     void OnPropertyChanged(StringView key);
 
+    static constexpr LONG Destroying = LONG(0x40000000);
+
     ModuleReference m_module;
     LONG m_references = 1;
     const ControlClass& m_class;
@@ -77,6 +80,14 @@ private:
     std::vector<std::unique_ptr<ObjectPart>> m_parts;
     bool m_dirty = false;
 };
+
+template <class... Interfaces>
+template <class Body>
+HRESULT PartOf<Interfaces...>::Entered(REFIID iid, Body&& body) noexcept
+{
+    ComPtr<IUnknown> keepAlive(&m_object);
+    return Guarded(iid, std::forward<Body>(body));
+}
 
 template <class... Interfaces> HRESULT PartOf<Interfaces...>::QueryInterface(REFIID iid, void** out)
 {

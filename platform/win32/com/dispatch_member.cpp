@@ -20,6 +20,8 @@ const DispatchMember* FindMember(std::span<const DispatchMember> members, DISPID
 
 const DispatchMember* FindMember(std::span<const DispatchMember> members, const wchar_t* name)
 {
+    if (!name)
+        return nullptr;
     for (const DispatchMember& member : members)
         if (CompareStringOrdinal(member.name, -1, name, -1, TRUE) == CSTR_EQUAL)
             return &member;

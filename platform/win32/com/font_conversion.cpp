@@ -31,9 +31,11 @@ Font ReadFontProperties(IFont* font)
     Bstr name;
     if (SUCCEEDED(font->get_Name(name.Put())))
         result.name = FromBstr(name.Get());
+    // A size reported outside what a standard font keeps is taken at the nearer end, as the
+    // control could not save it otherwise.
     CY size = {};
     if (SUCCEEDED(font->get_Size(&size)))
-        result.size = double(size.int64) / 10000.0;
+        result.size = KeptFontSize(double(size.int64) / 10000.0);
     SHORT weight = 0;
     if (SUCCEEDED(font->get_Weight(&weight)))
         result.weight = weight;
@@ -83,6 +85,8 @@ ComPtr<IFont> FontOf(const VARIANT& value)
     const VARIANT* v = &value;
     if (V_VT(v) == (VT_BYREF | VT_VARIANT))
         v = V_VARIANTREF(v);
+    if (!v)
+        return {};
     IUnknown* object = nullptr;
     switch (V_VT(v)) {
     case VT_DISPATCH:

@@ -18,6 +18,7 @@ public:
     HRESULT STDMETHODCALLTYPE OnChanged(DISPID attribute) override
     {
         return Guarded(IID_IPropertyNotifySink, [this, attribute] {
+            ComPtr<Sink> self(this); // the change may unadvise it, and the font let go of it
             if (m_owner)
                 m_owner->OnChanged(attribute);
             return S_OK;
@@ -36,8 +37,9 @@ private:
     LiveFont* m_owner;
 };
 
-LiveFont::LiveFont(std::function<void(const Font&)> changed)
-    : m_changed(std::move(changed))
+LiveFont::LiveFont(IUnknown& owner, std::function<void(const Font&)> changed)
+    : m_owner(owner)
+    , m_changed(std::move(changed))
 { }
 
 LiveFont::~LiveFont()
@@ -131,6 +133,9 @@ void LiveFont::OnChanged(DISPID attribute)
 {
     if (!m_font)
         return;
+    // A client may release the control from a notification the change raises: it goes only
+    // once this returns (and detaches the sink on its way).
+    ComPtr<IUnknown> keepAlive(&m_owner);
     m_shown = WithAttribute(m_shown, ReadFont(m_font.Get()), attribute);
     m_changed(m_shown);
 }

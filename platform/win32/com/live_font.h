@@ -17,8 +17,9 @@ namespace tolva::win32 {
 // control.
 class LiveFont {
 public:
-    // changed receives the control's font with the client's change applied.
-    explicit LiveFont(std::function<void(const Font&)> changed);
+    // changed receives the control's font with the client's change applied; owner, the
+    // control's COM object, is held while it runs.
+    LiveFont(IUnknown& owner, std::function<void(const Font&)> changed);
     ~LiveFont();
     LiveFont(const LiveFont&) = delete;
     LiveFont& operator=(const LiveFont&) = delete;
@@ -39,6 +40,7 @@ private:
     void Unwatch();
     void OnChanged(DISPID attribute);
 
+    IUnknown& m_owner;
     std::function<void(const Font&)> m_changed;
     ComPtr<IFont> m_font;
     Font m_shown; // the attributes m_font shows

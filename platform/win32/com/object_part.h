@@ -30,6 +30,10 @@ public:
     ULONG STDMETHODCALLTYPE Release() override;
 
 protected:
+    // Runs body as a call from outside: nothing thrown leaves it, and the object stays alive
+    // until it returns, even when a client it calls out to releases its last reference.
+    template <class Body> HRESULT Entered(REFIID iid, Body&& body) noexcept;
+
     ControlObject& m_object;
 };
 

@@ -44,10 +44,10 @@ ComPtr<IOleControlSite> InPlacePart::ControlSite() const
 
 HRESULT InPlacePart::Activate(IOleClientSite* site, const RECT* position, bool ui)
 {
+    ComPtr<IUnknown> keepAlive(&m_object);
     ComPtr<IOleClientSite> clientSite(site ? site : m_object.Site().ClientSite());
     if (!clientSite)
         return E_UNEXPECTED;
-    ComPtr<IUnknown> keepAlive(&m_object);
     if (!m_inPlaceSite) {
         auto inPlaceSite = clientSite.As<IOleInPlaceSite>(IID_IOleInPlaceSite);
         if (!inPlaceSite)
@@ -140,7 +140,7 @@ HRESULT InPlacePart::SetObjectRects(LPCRECT position, LPCRECT)
 {
     if (!position)
         return E_POINTER;
-    return Guarded(IID_IOleInPlaceObject, [&] {
+    return Entered(IID_IOleInPlaceObject, [&] {
         const float twips = float(SurfaceProperties::TwipsPerPixel);
         Surface().Move(float(position->left) * twips, float(position->top) * twips,
             float(position->right - position->left) * twips, float(position->bottom - position->top) * twips);

@@ -81,8 +81,7 @@ HRESULT OleControlPart::OnMnemonic(MSG* message)
     auto* inPlace = m_object.FindPart<InPlacePart>();
     if (!inPlace)
         return E_UNEXPECTED;
-    return Guarded(IID_IOleControl, [&] {
-        ComPtr<IUnknown> keepAlive(&m_object);
+    return Entered(IID_IOleControl, [&] {
         inPlace->Surface().PressAccessKey(KeyOf(*message));
         return S_OK;
     });
@@ -93,8 +92,7 @@ HRESULT OleControlPart::OnAmbientPropertyChange(DISPID id)
     auto* inPlace = m_object.FindPart<InPlacePart>();
     if (!inPlace)
         return E_UNEXPECTED;
-    return Guarded(IID_IOleControl, [&] {
-        ComPtr<IUnknown> keepAlive(&m_object);
+    return Entered(IID_IOleControl, [&] {
         if (SurfaceListener* listener = inPlace->Surface().Listener())
             listener->OnAmbientChanged(AmbientName(id));
         return S_OK;

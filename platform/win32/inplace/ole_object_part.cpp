@@ -21,7 +21,7 @@ IOleAdviseHolder* OleObjectPart::AdviseHolder()
 
 HRESULT OleObjectPart::SetClientSite(IOleClientSite* site)
 {
-    return Guarded(IID_IOleObject, [&] {
+    return Entered(IID_IOleObject, [&] {
         m_object.Site().SetClientSite(site);
         return S_OK;
     });
@@ -82,7 +82,7 @@ HRESULT OleObjectPart::DoVerb(LONG verb, LPMSG, IOleClientSite* site, LONG, HWND
     auto* inPlace = m_object.FindPart<InPlacePart>();
     if (!inPlace)
         return E_UNEXPECTED;
-    return Guarded(IID_IOleObject, [&]() -> HRESULT {
+    return Entered(IID_IOleObject, [&]() -> HRESULT {
         switch (verb) {
         case OLEIVERB_PRIMARY:
         case OLEIVERB_SHOW:
@@ -149,7 +149,7 @@ HRESULT OleObjectPart::SetExtent(DWORD aspect, SIZEL* size)
     auto* inPlace = m_object.FindPart<InPlacePart>();
     if (inPlace && inPlace->IsInPlaceActive())
         return S_OK;
-    return Guarded(IID_IOleObject, [&] {
+    return Entered(IID_IOleObject, [&] {
         Surface& surface = m_object.ControlSurface();
         const float twips = float(SurfaceProperties::TwipsPerPixel);
         surface.Move(surface.Left(), surface.Top(), float(HimetricToPixels(size->cx)) * twips,
@@ -179,6 +179,7 @@ HRESULT OleObjectPart::Advise(IAdviseSink* sink, DWORD* connection)
 
 HRESULT OleObjectPart::Unadvise(DWORD connection)
 {
+    ComPtr<IUnknown> keepAlive(&m_object); // the sink may release the object as it goes
     return m_adviseHolder ? m_adviseHolder->Unadvise(connection) : OLE_E_NOCONNECTION;
 }
 

@@ -39,8 +39,7 @@ HRESULT ViewObjectPart::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, HD
     auto* inPlace = m_object.FindPart<InPlacePart>();
     if (!inPlace)
         return E_UNEXPECTED;
-    return Guarded(IID_IViewObject2, [&] {
-        ComPtr<IUnknown> keepAlive(&m_object);
+    return Entered(IID_IViewObject2, [&] {
         inPlace->Surface().DrawTo(dc, RECT { bounds->left, bounds->top, bounds->right, bounds->bottom });
         return S_OK;
     });
@@ -65,6 +64,7 @@ HRESULT ViewObjectPart::Unfreeze(DWORD)
 
 HRESULT ViewObjectPart::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink)
 {
+    ComPtr<IUnknown> keepAlive(&m_object); // the sink it replaces may release the object
     m_sink = ComPtr<IAdviseSink>(sink);
     m_aspects = aspects;
     m_flags = flags;

@@ -7,28 +7,12 @@
 #include "tests/win32/support/event_sink.h"
 #include "tests/win32/support/fake_object.h"
 #include "tests/win32/support/font_printing.h"
+#include "tests/win32/support/notify_sink.h"
 #include <gtest/gtest.h>
 #include <olectl.h>
 
 namespace tolva::win32::test {
 namespace {
-
-class NotifySink final : public FakeObject<IPropertyNotifySink> {
-public:
-    HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override
-    {
-        changed.push_back(id);
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
-    std::vector<DISPID> changed;
-
-protected:
-    void* Find(REFIID iid) override
-    {
-        return iid == IID_IPropertyNotifySink ? static_cast<IPropertyNotifySink*>(this) : nullptr;
-    }
-};
 
 class CommandFont : public testing::Test {
 protected:

@@ -1,7 +1,7 @@
 // IPersistStreamInit of TolvaCommand: round trips, and streams that are short, corrupt, hostile
 // or of another version, which must leave the control exactly as it was.
 #include "platform/win32/com/bstr.h"
-#include "platform/win32/com/property_stream_format.h"
+#include "core/property_stream_format.h"
 #include "tests/win32/support/command_object.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <cmath>

@@ -11,8 +11,7 @@ namespace {
 
 bool IsObject(const VARIANT& value)
 {
-    const VARIANT* v = V_VT(&value) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(&value) : &value;
-    VARTYPE type = V_VT(v) & ~VT_BYREF;
+    VARTYPE type = V_VT(&Referenced(value)) & ~VT_BYREF;
     return type == VT_DISPATCH || type == VT_UNKNOWN;
 }
 
@@ -23,7 +22,7 @@ HRESULT CheckArguments(const DispatchMember& member, const DispatchArguments& ar
     if (arguments.Count() < member.RequiredParameters() || arguments.Count() > member.parameters.size())
         return DISP_E_BADPARAMCOUNT;
     for (size_t i = 0; i < arguments.Count(); ++i) {
-        if (IsMissing(arguments.At(i)) && !member.parameters[i].optional) {
+        if (arguments.Convert(i, &IsMissing) && !member.parameters[i].optional) {
             if (argumentError)
                 *argumentError = arguments.DispatchIndex(i);
             return DISP_E_PARAMNOTOPTIONAL;
@@ -86,8 +85,10 @@ HRESULT DispatchPart::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS
 {
     if (iid != IID_NULL)
         return DISP_E_UNKNOWNINTERFACE;
-    if (!params || (params->cArgs > 0 && !params->rgvarg))
+    if (!params || (params->cArgs > 0 && !params->rgvarg) || (params->cNamedArgs > 0 && !params->rgdispidNamedArgs))
         return E_POINTER;
+    if (params->cNamedArgs > params->cArgs)
+        return E_INVALIDARG;
     const DispatchMember* member = FindMember(m_object.Class().members, id);
     if (!member)
         return DISP_E_MEMBERNOTFOUND;
@@ -149,7 +150,7 @@ HRESULT DispatchPart::Assign(const DispatchMember& member, WORD flags, const DIS
     // An object goes to the by-reference setter (also when assigned without Set), anything
     // else to the value setter; Set on a plain property is refused as the languages refuse it.
     MemberSetter setter = nullptr;
-    if (member.set && (IsObject(arguments.Value()) || !(flags & DISPATCH_PROPERTYPUT)))
+    if (member.set && (arguments.ConvertValue(&IsObject) || !(flags & DISPATCH_PROPERTYPUT)))
         setter = member.set;
     else if (flags & DISPATCH_PROPERTYPUT)
         setter = member.let;

@@ -19,7 +19,7 @@ HRESULT PersistBagPart::GetClassID(CLSID* clsid)
 
 HRESULT PersistBagPart::InitNew()
 {
-    return Guarded(IID_IPersistPropertyBag, [this] {
+    return Entered(IID_IPersistPropertyBag, [this] {
         m_object.InitNew();
         return S_OK;
     });
@@ -29,8 +29,7 @@ HRESULT PersistBagPart::Load(IPropertyBag* bag, IErrorLog* log)
 {
     if (!bag)
         return E_POINTER;
-    return Guarded(IID_IPersistPropertyBag, [&] {
-        ComPtr<IUnknown> keepAlive(&m_object);
+    return Entered(IID_IPersistPropertyBag, [&] {
         ComPropertyBag values(bag, log);
         m_object.Load(values);
         return S_OK;
@@ -41,7 +40,7 @@ HRESULT PersistBagPart::Save(IPropertyBag* bag, BOOL clearDirty, BOOL)
 {
     if (!bag)
         return E_POINTER;
-    return Guarded(IID_IPersistPropertyBag, [&] {
+    return Entered(IID_IPersistPropertyBag, [&] {
         ComPropertyBag values(bag, nullptr);
         m_object.Save(values);
         if (clearDirty)

@@ -2,7 +2,7 @@
 #include "core/automation_error.h"
 #include "platform/win32/com/com_error.h"
 #include "platform/win32/com/error_reporting.h"
-#include "platform/win32/com/property_stream_format.h"
+#include "core/property_stream_format.h"
 #include <array>
 
 namespace tolva::win32 {
@@ -47,8 +47,7 @@ HRESULT PersistStreamPart::Load(IStream* stream)
 {
     if (!stream)
         return E_POINTER;
-    return Guarded(IID_IPersistStreamInit, [&] {
-        ComPtr<IUnknown> keepAlive(&m_object);
+    return Entered(IID_IPersistStreamInit, [&] {
         std::array<uint8_t, PropertyStream::HeaderSize> headerBytes;
         ReadExactly(stream, headerBytes);
         PropertyStream::Header header = PropertyStream::DecodeHeader(headerBytes);
@@ -71,7 +70,7 @@ HRESULT PersistStreamPart::Save(IStream* stream, BOOL clearDirty)
 {
     if (!stream)
         return E_POINTER;
-    return Guarded(IID_IPersistStreamInit, [&] {
+    return Entered(IID_IPersistStreamInit, [&] {
         std::vector<uint8_t> bytes = Encoded();
         ULONG written = 0;
         ThrowIfFailed(stream->Write(bytes.data(), ULONG(bytes.size()), &written));
@@ -87,7 +86,7 @@ HRESULT PersistStreamPart::GetSizeMax(ULARGE_INTEGER* size)
 {
     if (!size)
         return E_POINTER;
-    return Guarded(IID_IPersistStreamInit, [&] {
+    return Entered(IID_IPersistStreamInit, [&] {
         size->QuadPart = Encoded().size();
         return S_OK;
     });
@@ -95,7 +94,7 @@ HRESULT PersistStreamPart::GetSizeMax(ULARGE_INTEGER* size)
 
 HRESULT PersistStreamPart::InitNew()
 {
-    return Guarded(IID_IPersistStreamInit, [this] {
+    return Entered(IID_IPersistStreamInit, [this] {
         m_object.InitNew();
         return S_OK;
     });

@@ -5,7 +5,7 @@
 namespace tolva::win32 {
 
 // IPersistStreamInit: the same properties as the property bag, in a versioned binary form
-// (property_stream_format.h). A stream that is short, corrupt or of another version is refused
+// (core/property_stream_format.h). A stream that is short, corrupt or of another version is refused
 // with an error and the control stays as it was.
 class PersistStreamPart final : public PartOf<IPersistStreamInit> {
 public:

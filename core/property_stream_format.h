@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-namespace tolva::win32 {
+namespace tolva {
 
 // The binary form of a control's property bag that IPersistStreamInit reads and writes:
 //
@@ -15,7 +15,8 @@ namespace tolva::win32 {
 //              charset i16, flags u8 (1 italic, 2 underline, 4 strike-through)
 //
 // Little-endian throughout. Everything is bounded; a reader refuses whatever it does not fully
-// understand rather than guess.
+// understand rather than guess, and the writer refuses, before writing anything, whatever the
+// reader would refuse: what is saved loads again.
 namespace PropertyStream {
 
 constexpr uint16_t Version = 1;
@@ -25,6 +26,9 @@ constexpr uint32_t MaxEntries = 4096;
 constexpr uint16_t MaxKeyLength = 256;
 constexpr uint16_t MaxFontNameLength = 256;
 
+// Throws AutomationError STG_E_CANTSAVE, naming the reason, for values past the bounds: more
+// than MaxPayload bytes or MaxEntries entries, a key or font name too long, a number that is
+// not finite, a font size below 0 or past 32 bits of points x 10,000.
 std::vector<uint8_t> Encode(const MemoryPropertyBag& bag);
 
 struct Header {
@@ -39,4 +43,4 @@ MemoryPropertyBag DecodePayload(const Header& header, std::span<const uint8_t> p
 
 } // namespace PropertyStream
 
-} // namespace tolva::win32
+} // namespace tolva

@@ -1,11 +1,11 @@
-#include "platform/win32/com/property_stream_format.h"
+#include "core/property_stream_format.h"
 #include "core/automation_error.h"
 #include <bit>
 #include <cmath>
 #include <cstring>
 #include <type_traits>
 
-namespace tolva::win32 {
+namespace tolva {
 
 namespace {
 
@@ -14,7 +14,8 @@ static_assert(std::endian::native == std::endian::little, "the stream is written
 constexpr uint8_t Signature[4] = { 'T', 'K', 'P', 'S' };
 constexpr int32_t StgOldDll = int32_t(0x80030105); // STG_E_OLDDLL
 constexpr int32_t StgDocfileCorrupt = int32_t(0x80030109); // STG_E_DOCFILECORRUPT
-constexpr int64_t MaxFontSize = 2048 * 10000; // points x 10,000
+constexpr int32_t StgCantSave = int32_t(0x80030103); // STG_E_CANTSAVE
+constexpr int64_t MaxFontSizeUnits = int64_t(UINT32_MAX); // MaxKeptFontSize in points x 10,000
 
 enum class Tag : uint8_t { Bool = 1, Int16, Int32, Float, Double, Currency, Date, Text, Font };
 
@@ -23,6 +24,20 @@ enum FontFlags : uint8_t { Italic = 1, Underline = 2, Strikethrough = 4 };
 [[noreturn]] void Corrupt()
 {
     throw AutomationError(StgDocfileCorrupt, u"TolvaKit", u"The stream does not hold valid control properties");
+}
+
+// What the writer cannot put into a stream that the reader would take back. The writer checks
+// before anything is written, with the same bounds the reader keeps, so that whatever is saved
+// loads again.
+[[noreturn]] void CannotSave(StringView what)
+{
+    throw AutomationError(
+        StgCantSave, u"TolvaKit", u"The control's properties cannot be saved to a stream: " + String(what));
+}
+
+bool FontSizeFits(int64_t size)
+{
+    return size >= 0 && size <= MaxFontSizeUnits;
 }
 
 class Writer {
@@ -34,7 +49,7 @@ public:
         m_bytes.resize(end + sizeof(T));
         std::memcpy(m_bytes.data() + end, &value, sizeof(T));
     }
-    void PutText16(StringView text) // u16 length
+    void PutText16(StringView text) // u16 length, at most 65535 units (the caller's bound)
     {
         Put(uint16_t(text.size()));
         PutUnits(text);
@@ -110,15 +125,21 @@ void PutValue(Writer& out, const Variant& value)
                 out.Put(Tag::Int32);
                 out.Put(v);
             } else if constexpr (std::is_same_v<T, float>) {
+                if (!std::isfinite(v))
+                    CannotSave(u"a number is not finite");
                 out.Put(Tag::Float);
                 out.Put(v);
             } else if constexpr (std::is_same_v<T, double>) {
+                if (!std::isfinite(v))
+                    CannotSave(u"a number is not finite");
                 out.Put(Tag::Double);
                 out.Put(v);
             } else if constexpr (std::is_same_v<T, Currency>) {
                 out.Put(Tag::Currency);
                 out.Put(v.Raw());
             } else if constexpr (std::is_same_v<T, OleDate>) {
+                if (!std::isfinite(v.Serial()))
+                    CannotSave(u"a date is not finite");
                 out.Put(Tag::Date);
                 out.Put(v.Serial());
             } else if constexpr (std::is_same_v<T, String>) {
@@ -126,8 +147,13 @@ void PutValue(Writer& out, const Variant& value)
                 out.PutText32(v);
             } else {
                 static_assert(std::is_same_v<T, Font>);
+                if (v.name.size() > PropertyStream::MaxFontNameLength)
+                    CannotSave(u"the font name is longer than 256 characters");
+                // Compared before rounding: a size past the 64 bits must not reach llround.
+                if (!(v.size >= 0 && v.size * 10000.0 <= double(MaxFontSizeUnits)))
+                    CannotSave(u"the font size is negative or larger than 429,496 points");
                 out.Put(Tag::Font);
-                out.PutText16(StringView(v.name).substr(0, PropertyStream::MaxFontNameLength));
+                out.PutText16(v.name);
                 out.Put(int64_t(std::llround(v.size * 10000.0)));
                 out.Put(v.weight);
                 out.Put(v.charset);
@@ -172,14 +198,14 @@ Variant GetValue(Reader& in)
             Corrupt();
         font.name = in.GetUnits(nameLength);
         int64_t size = in.Get<int64_t>();
-        if (size <= 0 || size > MaxFontSize)
+        if (!FontSizeFits(size))
             Corrupt();
         font.size = double(size) / 10000.0;
+        // Weight and charset are whatever 16 bits a font object holds.
         font.weight = in.Get<int16_t>();
         font.charset = in.Get<int16_t>();
         uint8_t flags = in.Get<uint8_t>();
-        if (font.weight < 0 || font.weight > 1000 || font.charset < 0 || font.charset > 255
-            || (flags & ~(Italic | Underline | Strikethrough)))
+        if (flags & ~(Italic | Underline | Strikethrough))
             Corrupt();
         font.italic = flags & Italic;
         font.underline = flags & Underline;
@@ -205,9 +231,14 @@ std::vector<uint8_t> PropertyStream::Encode(const MemoryPropertyBag& bag)
     for (const auto& [key, value] : bag.Entries()) {
         if (value.IsEmpty())
             continue;
+        if (key.empty() || key.size() > MaxKeyLength)
+            CannotSave(u"a key is empty or longer than 256 characters");
+        if (++entries > MaxEntries)
+            CannotSave(u"there are more than 4096 of them");
         out.PutText16(key);
         PutValue(out, value);
-        ++entries;
+        if (out.Bytes().size() - HeaderSize > MaxPayload)
+            CannotSave(u"they take more than 1 MiB");
     }
     std::vector<uint8_t> bytes = std::move(out.Bytes());
     const auto payloadSize = uint32_t(bytes.size() - HeaderSize);
@@ -256,4 +287,4 @@ MemoryPropertyBag PropertyStream::DecodePayload(const Header& header, std::span<
     return bag;
 }
 
-} // namespace tolva::win32
+} // namespace tolva

@@ -1,0 +1,295 @@
+// Call-outs a client turns against the control. For every event and property notification of
+// every control class: a sink that releases the last reference to the control, one that
+// unadvises itself, and one that sets every property and calls every method of the same
+// control, each inside that call-out. Nothing may crash or run on a freed control (the test
+// programs poison freed memory), and a control still held answers afterwards. The same with
+// real windows, and a sink that destroys the container, is in the GUI suite.
+#include "platform/win32/com/bstr.h"
+#include "platform/win32/com/control_object.h"
+#include "platform/win32/com/font_conversion.h"
+#include "platform/win32/com/type_library.h"
+#include "platform/win32/windowless/windowless_surface.h"
+#include "tests/win32/support/event_sink.h"
+#include "tests/win32/support/notify_sink.h"
+#include "tests/win32/support/type_info_reading.h"
+#include <gtest/gtest.h>
+#include <olectl.h>
+#include <set>
+
+namespace tolva::win32::test {
+namespace {
+
+enum class Behaviour { ReleaseControl, Unadvise, Reenter };
+
+// The call-out a sink turns against the control: an event by its id, or a notification.
+struct Target {
+    bool notification;
+    DISPID id; // the event's; any notification when notification is true
+};
+
+VARIANT Typical(OleType type, int round)
+{
+    VARIANT v;
+    VariantInit(&v);
+    switch (type) {
+    case OleType::Bool:
+        V_VT(&v) = VT_BOOL;
+        V_BOOL(&v) = round % 2 ? VARIANT_TRUE : VARIANT_FALSE;
+        break;
+    case OleType::Int16:
+        V_VT(&v) = VT_I2;
+        V_I2(&v) = SHORT(round);
+        break;
+    case OleType::String:
+        V_VT(&v) = VT_BSTR;
+        V_BSTR(&v) = SysAllocString(round % 2 ? L"&Again" : L"Re&entered");
+        break;
+    case OleType::Font: {
+        Font font;
+        font.size = 9 + round;
+        V_VT(&v) = VT_DISPATCH;
+        V_DISPATCH(&v) = CreateStdFont(font).As<IDispatch>(IID_IDispatch).Detach();
+        break;
+    }
+    default:
+        V_VT(&v) = VT_I4;
+        V_I4(&v) = round * 7;
+        break;
+    }
+    return v;
+}
+
+// Sets every property of control and calls every method, as a handler may, until gone says
+// the control was released meanwhile.
+void UseEveryMember(IDispatch* control, const ControlClass& controlClass, int round,
+    const std::function<bool()>& gone = [] { return false; })
+{
+    for (const DispatchMember& member : controlClass.members) {
+        if (!member.parameters.empty())
+            continue;
+        if (gone())
+            return;
+        VARIANT value = Typical(member.type.type, round);
+        DISPID named = DISPID_PROPERTYPUT;
+        DISPPARAMS put = { &value, &named, 1, 1 };
+        DISPPARAMS none = {};
+        VARIANT result;
+        VariantInit(&result);
+        if (member.isMethod)
+            control->Invoke(member.id, IID_NULL, 0, DISPATCH_METHOD, &none, &result, nullptr, nullptr);
+        else
+            control->Invoke(member.id, IID_NULL, 0, member.set ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, &put,
+                nullptr, nullptr, nullptr);
+        VariantClear(&result);
+        VariantClear(&value);
+    }
+}
+
+class Reentrancy : public testing::TestWithParam<const ControlClass*> {
+protected:
+    const ControlClass& Class() const { return *GetParam(); }
+
+    std::vector<Target> Targets() const
+    {
+        std::vector<Target> targets = { { true, DISPID_UNKNOWN } };
+        ForEachFunction(TypeLibrary::InfoOf(*Class().eventIid).Get(),
+            [&targets](const FUNCDESC& f) { targets.push_back({ false, f.memid }); });
+        return targets;
+    }
+
+    // One way into the control that ends in call-outs, from the client's side.
+    struct Stimulus {
+        const char* name;
+        std::function<void(ControlObject& object, IDispatch* control, const std::function<bool()>& gone)> run;
+    };
+
+    // Everything that calls out: input as the control's window delivers it (holding the
+    // object, as the window does), assignments and method calls, the font object, loading, an
+    // ambient change. Each stops once gone() says the control was released.
+    std::vector<Stimulus> Stimuli() const
+    {
+        auto asWindow = [](std::function<void(SurfaceListener&)> input) {
+            return [input](ControlObject& object, IDispatch*, const std::function<bool()>&) {
+                ComPtr<IUnknown> keepAlive(&object);
+                // Every control's surface is a window surface, a windowless one until in place.
+                input(*static_cast<WindowlessSurface&>(object.ControlSurface()).Listener());
+            };
+        };
+        const ControlClass& controlClass = Class();
+        return {
+            { "left click", asWindow([](SurfaceListener& l) {
+                 l.OnMouseMove(0, 0, 30, 30);
+                 l.OnMouseDown(1, 0, 30, 30);
+                 l.OnMouseMove(1, 0, 40, 40);
+                 l.OnMouseUp(1, 0, 30, 30);
+             }) },
+            { "right click", asWindow([](SurfaceListener& l) {
+                 l.OnMouseDown(2, 1, 30, 30);
+                 l.OnMouseUp(2, 1, 30, 30);
+             }) },
+            { "double click", asWindow([](SurfaceListener& l) { l.OnDblClick(); }) },
+            { "keys", asWindow([](SurfaceListener& l) {
+                 int16_t space = 32, enter = 13, shift = 0, ascii = 97;
+                 l.OnKeyDown(space, shift);
+                 l.OnKeyUp(space, shift);
+                 l.OnKeyDown(enter, shift);
+                 l.OnKeyPress(ascii);
+                 l.OnKeyUp(enter, shift);
+             }) },
+            { "access key", asWindow([](SurfaceListener& l) { l.OnAccessKeyPress(u'a'); }) },
+            { "focus", asWindow([](SurfaceListener& l) {
+                 l.OnGotFocus();
+                 l.OnLostFocus();
+             }) },
+            { "assignments and methods",
+                [&controlClass](ControlObject&, IDispatch* control, const std::function<bool()>& gone) {
+                    UseEveryMember(control, controlClass, 1, gone);
+                } },
+            { "font object", [this](ControlObject&, IDispatch* control, const std::function<bool()>&) {
+                 ChangeLiveFont(control);
+             } },
+            { "loading", [this](ControlObject&, IDispatch* control, const std::function<bool()>& gone) {
+                 LoadSaved(control, gone);
+             } },
+            { "ambient change", [](ControlObject&, IDispatch* control, const std::function<bool()>&) {
+                 IOleControl* unheld = ComPtr<IDispatch>(control).As<IOleControl>(IID_IOleControl).Get();
+                 unheld->OnAmbientPropertyChange(DISPID_UNKNOWN);
+             } },
+        };
+    }
+
+    // Runs stimulus against a new control whose sinks turn behaviour against it at target;
+    // returns whether the sink acted.
+    bool Run(Behaviour behaviour, const Target& target, const Stimulus& stimulus)
+    {
+        ComPtr<IUnknown> object = ControlObject::Create(Class());
+        ControlObject* raw = static_cast<ControlObject*>(object.Get());
+        IDispatch* control = object.As<IDispatch>(IID_IDispatch).Get(); // held by object
+        auto events = ComPtr<EventSink>::Adopt(new EventSink(*Class().eventIid));
+        auto notifications = ComPtr<NotifySink>::Adopt(new NotifySink);
+        DWORD eventCookie = Advise(object.Get(), *Class().eventIid, events.Get());
+        DWORD notifyCookie = Advise(object.Get(), IID_IPropertyNotifySink, notifications.Get());
+        EXPECT_NE(eventCookie, 0u);
+        EXPECT_NE(notifyCookie, 0u);
+
+        // The sink holds the only reference when it is to release it: the client then calls
+        // through a pointer it no longer holds, as a script engine's cached pointer would.
+        ComPtr<IUnknown> heldBySink;
+        if (behaviour == Behaviour::ReleaseControl)
+            heldBySink = std::move(object);
+        bool acted = false;
+        auto act = [&] {
+            if (acted)
+                return;
+            acted = true;
+            switch (behaviour) {
+            case Behaviour::ReleaseControl:
+                heldBySink.Reset();
+                break;
+            case Behaviour::Unadvise: {
+                auto container = ComPtr<IDispatch>(control).As<IConnectionPointContainer>(IID_IConnectionPointContainer);
+                ComPtr<IConnectionPoint> point;
+                container->FindConnectionPoint(target.notification ? IID_IPropertyNotifySink : *Class().eventIid,
+                    point.Put());
+                point->Unadvise(target.notification ? notifyCookie : eventCookie);
+                break;
+            }
+            case Behaviour::Reenter:
+                UseEveryMember(control, Class(), 2);
+                break;
+            }
+        };
+        events->OnEvent([&](DISPID id, const std::vector<VARIANT*>&) {
+            if (!target.notification && id == target.id)
+                act();
+        });
+        notifications->OnNotification([&](DISPID, bool) {
+            if (target.notification)
+                act();
+        });
+
+        stimulus.run(*raw, control, [&] { return behaviour == Behaviour::ReleaseControl && acted; });
+        if (behaviour == Behaviour::ReleaseControl && !acted)
+            heldBySink.Reset();
+        if (behaviour != Behaviour::ReleaseControl)
+            ExpectAnswering(object);
+        return acted;
+    }
+
+    // ctl.Font.Bold = True: the change reaches the control through the font's own notification.
+    void ChangeLiveFont(IDispatch* control) const
+    {
+        for (const DispatchMember& member : Class().members) {
+            if (member.type.type != OleType::Font)
+                continue;
+            VARIANT value;
+            VariantInit(&value);
+            DISPPARAMS none = {};
+            control->Invoke(member.id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr);
+            ComPtr<IFont> font = FontOf(value);
+            VariantClear(&value);
+            if (font)
+                font->put_Bold(TRUE); // may release the control: font is ours
+            return;
+        }
+    }
+
+    void LoadSaved(IDispatch* control, const std::function<bool()>& gone) const
+    {
+        auto persist = ComPtr<IDispatch>(control).As<IPersistStreamInit>(IID_IPersistStreamInit);
+        ComPtr<IStream> stream;
+        CreateStreamOnHGlobal(nullptr, TRUE, stream.Put());
+        UseEveryMember(control, Class(), 1, gone); // something to load that differs
+        if (gone())
+            return;
+        persist->Save(stream.Get(), FALSE);
+        persist->InitNew();
+        if (gone())
+            return;
+        const LARGE_INTEGER start = {};
+        stream->Seek(start, STREAM_SEEK_SET, nullptr);
+        IPersistStreamInit* unheld = persist.Get();
+        persist.Reset(); // the control may go while loading; the client calls through its pointer
+        unheld->Load(stream.Get());
+    }
+
+    void ExpectAnswering(const ComPtr<IUnknown>& object)
+    {
+        auto control = object.As<IDispatch>(IID_IDispatch);
+        for (const DispatchMember& member : Class().members) {
+            if (member.isMethod || !member.parameters.empty())
+                continue;
+            VARIANT value;
+            VariantInit(&value);
+            DISPPARAMS none = {};
+            EXPECT_EQ(control->Invoke(member.id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr),
+                S_OK);
+            VariantClear(&value);
+        }
+    }
+};
+
+TEST_P(Reentrancy, EveryCallOutSurvivesEverySink)
+{
+    std::set<std::pair<bool, DISPID>> reached;
+    for (Behaviour behaviour : { Behaviour::ReleaseControl, Behaviour::Unadvise, Behaviour::Reenter }) {
+        for (const Target& target : Targets()) {
+            for (const Stimulus& stimulus : Stimuli()) {
+                SCOPED_TRACE(testing::Message() << "behaviour " << int(behaviour) << ", "
+                                                << (target.notification ? "notification" : "event ")
+                                                << (target.notification ? 0 : target.id) << ", " << stimulus.name);
+                if (Run(behaviour, target, stimulus))
+                    reached.insert({ target.notification, target.id });
+            }
+        }
+    }
+    // The notifications and some event at least; a scroll bar without windows raises only Change.
+    EXPECT_TRUE(reached.count({ true, DISPID_UNKNOWN }));
+    EXPECT_GE(reached.size(), 2u);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryControl, Reentrancy, testing::ValuesIn(ControlClasses()),
+    [](const testing::TestParamInfo<const ControlClass*>& info) { return ToUtf8(FromWide(info.param->name)); });
+
+} // namespace
+} // namespace tolva::win32::test
