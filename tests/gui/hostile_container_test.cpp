@@ -10,6 +10,8 @@
 #include "tests/gui/atl_hosted.h"
 #include "tests/win32/support/notify_sink.h"
 #include "tests/win32/support/type_info_reading.h"
+#include <functional>
+#include <set>
 #include <gtest/gtest.h>
 
 namespace tolva::win32::test {
@@ -32,11 +34,16 @@ std::vector<HWND> WindowsOf(HWND window)
     return windows;
 }
 
-void UseEveryMember(IDispatch* control, const ControlClass& controlClass)
+// Reads every property and assigns it again, and calls every method but the modal about box,
+// until gone says the control went meanwhile.
+void UseEveryMember(IDispatch* control, const ControlClass& controlClass,
+    const std::function<bool()>& gone = [] { return false; })
 {
     for (const DispatchMember& member : controlClass.members) {
         if (!member.parameters.empty() || member.id == DISPID_ABOUTBOX)
             continue;
+        if (gone())
+            return;
         VARIANT value;
         VariantInit(&value);
         DISPPARAMS none = {};
@@ -64,11 +71,13 @@ protected:
         return targets;
     }
 
-    void Run(Behaviour behaviour, const Target& target)
+    // Hosts a new control whose sinks turn behaviour against it at target and drives it;
+    // returns whether the sink acted.
+    bool Run(Behaviour behaviour, const Target& target)
     {
         Host(Class().ProgId().c_str(), *Class().eventIid, 10, 10, 120, 60);
         if (HasFatalFailure())
-            return;
+            return false;
         auto events = ComPtr<EventSink>::Adopt(new EventSink(*Class().eventIid));
         auto notifications = ComPtr<NotifySink>::Adopt(new NotifySink);
         const DWORD eventCookie = Advise(control.Get(), *Class().eventIid, events.Get());
@@ -140,10 +149,11 @@ protected:
             }
         }
         if (dispatch)
-            UseEveryMember(dispatch.Get(), Class());
+            UseEveryMember(dispatch.Get(), Class(), [&] { return behaviour == Behaviour::DestroyContainer && acted; });
         PumpFor(20);
         if (behaviour == Behaviour::Unadvise || behaviour == Behaviour::Reenter)
             ExpectAnswering();
+        return acted;
     }
 
     void ExpectAnswering()
@@ -164,18 +174,26 @@ protected:
 
 TEST_P(HostileContainer, NoSinkCanCrashTheControl)
 {
+    std::set<std::pair<int, int>> reached; // behaviour and target kind
     for (Behaviour behaviour :
         { Behaviour::DropClient, Behaviour::Unadvise, Behaviour::Reenter, Behaviour::DestroyContainer }) {
         for (const Target& target : Targets()) {
             SCOPED_TRACE(testing::Message() << "behaviour " << int(behaviour) << " target " << int(target.kind) << " "
                                             << target.id);
-            Run(behaviour, target);
+            if (Run(behaviour, target))
+                reached.insert({ int(behaviour), int(target.kind) });
             TearDown();
             container = window = nullptr;
             control.Reset();
             dispatch.Reset();
             sink.Reset();
         }
+    }
+    // Every sink acted inside an event and inside a notification at least once.
+    for (Behaviour behaviour :
+        { Behaviour::DropClient, Behaviour::Unadvise, Behaviour::Reenter, Behaviour::DestroyContainer }) {
+        EXPECT_TRUE(reached.count({ int(behaviour), int(Target::AnyEvent) })) << int(behaviour);
+        EXPECT_TRUE(reached.count({ int(behaviour), int(Target::Notification) })) << int(behaviour);
     }
 }
 

@@ -315,7 +315,7 @@ TEST_P(InvokeFuzz, NoCallCrashesAndTheControlStillAnswers)
 {
     const ControlClass& controlClass = *GetParam();
     std::mt19937 random(uint32_t(Setting("TOLVA_INVOKE_FUZZ_SEED", 14)));
-    const size_t calls = Setting("TOLVA_INVOKE_FUZZ_CALLS", 6000);
+    const size_t calls = Setting("TOLVA_INVOKE_FUZZ_CALLS", 20000);
 
     std::vector<DISPID> ids = { DISPID_VALUE, DISPID_UNKNOWN, DISPID_NEWENUM, DISPID_EVALUATE, DISPID_PROPERTYPUT,
         0x7FFFFFFF, LONG(0x80000000) };

@@ -181,10 +181,18 @@ TEST_F(CommandStream, MalformedValuesAreRefused)
     Poke<uint16_t>(emptyKey, PropertyStream::HeaderSize, 0);
     ExpectRefused(emptyKey);
 
-    ExpectRefused(Encoded({ { u"BackColor", Variant(std::nan("")) } }));
-    Font zero;
-    zero.size = 0;
-    ExpectRefused(Encoded({ { u"Font", Variant(zero) } }));
+    std::vector<uint8_t> notFinite = Encoded({ { u"BackColor", Variant(1.5) } });
+    Poke<double>(notFinite, notFinite.size() - 8, std::nan(""));
+    ExpectRefused(notFinite);
+
+    // A font entry ends in its size (8 bytes), weight, charset (2 each) and flags (1).
+    const std::vector<uint8_t> font = Encoded({ { u"Font", Variant(Font()) } });
+    std::vector<uint8_t> negativeSize = font;
+    Poke<int64_t>(negativeSize, font.size() - 13, -1);
+    ExpectRefused(negativeSize);
+    std::vector<uint8_t> unknownFlag = font;
+    unknownFlag.back() = 0x80;
+    ExpectRefused(unknownFlag);
 }
 
 TEST_F(CommandStream, TheSameKeyTwiceIsRefused)
