@@ -2,6 +2,7 @@
 #include "controls/command/tolva_command.h"
 #include "controls/label/tolva_label.h"
 #include "controls/scroll/tolva_scroll.h"
+#include "controls/tabs/tolva_tabs.h"
 
 namespace tolva::fuzz {
 
@@ -27,6 +28,7 @@ constexpr HeadlessControlFactory Controls[] = {
     &Create<TolvaCommand>,
     &Create<TolvaLabel>,
     &Create<TolvaScroll>,
+    &Create<TolvaTabs>,
 };
 
 } // namespace
