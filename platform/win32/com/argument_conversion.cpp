@@ -19,35 +19,12 @@ bool IsObjectType(VARTYPE type)
     return type == VT_DISPATCH || type == VT_UNKNOWN;
 }
 
-// The value with every object replaced by its default value, followed at most MaxObjectDepth
-// objects deep; a value that is not an object is copied as it is (by-reference values
-// dereferenced).
-void DefaultValueOf(OleVariant& result, const VARIANT& value)
-{
-    ThrowIfFailed(VariantCopyInd(result.Put(), const_cast<VARIANT*>(&value)));
-    for (int depth = 0; IsObjectType(result.Type()); ++depth) {
-        IUnknown* object = result.Type() == VT_DISPATCH ? V_DISPATCH(&result.Get()) : V_UNKNOWN(&result.Get());
-        ComPtr<IDispatch> dispatch = ComPtr<IUnknown>(object).As<IDispatch>(IID_IDispatch);
-        if (!dispatch || depth == MaxObjectDepth)
-            throw ComError(DISP_E_TYPEMISMATCH);
-        OleVariant fetched;
-        DISPPARAMS none = {};
-        if (FAILED(dispatch->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                fetched.Put(), nullptr, nullptr)))
-            throw ComError(DISP_E_TYPEMISMATCH);
-        ThrowIfFailed(VariantCopyInd(result.Put(), &fetched.Get()));
-    }
-}
-
-// value converted to type with flags. An object argument is first reduced to its default value
-// here, with a bounded depth, rather than by VariantChangeType, which follows it without bound.
+// value converted to type with flags, from the plain value it stands for: VariantChangeType
+// would follow an object's default value without bound.
 HRESULT ChangeType(OleVariant& result, const VARIANT& value, USHORT flags, VARTYPE type)
 {
-    const VARIANT& v = Referenced(value);
-    if (!IsObjectType(V_VT(&v)))
-        return VariantChangeType(result.Put(), const_cast<VARIANT*>(&v), flags, type);
     OleVariant plain;
-    DefaultValueOf(plain, v);
+    PlainArgument(plain, value);
     return VariantChangeType(result.Put(), &plain.Get(), flags, type);
 }
 
@@ -191,6 +168,23 @@ const VARIANT& Referenced(const VARIANT& value)
     return *v;
 }
 
+void PlainArgument(OleVariant& result, const VARIANT& value)
+{
+    ThrowIfFailed(VariantCopyInd(result.Put(), const_cast<VARIANT*>(&Referenced(value))));
+    for (int depth = 0; IsObjectType(result.Type()); ++depth) {
+        IUnknown* object = result.Type() == VT_DISPATCH ? V_DISPATCH(&result.Get()) : V_UNKNOWN(&result.Get());
+        ComPtr<IDispatch> dispatch = ComPtr<IUnknown>(object).As<IDispatch>(IID_IDispatch);
+        if (!dispatch || depth == MaxObjectDepth)
+            throw ComError(DISP_E_TYPEMISMATCH);
+        OleVariant fetched;
+        DISPPARAMS none = {};
+        if (FAILED(dispatch->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
+                fetched.Put(), nullptr, nullptr)))
+            throw ComError(DISP_E_TYPEMISMATCH);
+        ThrowIfFailed(VariantCopyInd(result.Put(), &fetched.Get()));
+    }
+}
+
 bool IsMissing(const VARIANT& value)
 {
     const VARIANT& v = Referenced(value);
@@ -199,7 +193,7 @@ bool IsMissing(const VARIANT& value)
 
 void PutBack(const VARIANT& argument, const VARIANT& value)
 {
-    if (!(V_VT(&argument) & VT_BYREF))
+    if (!(V_VT(&argument) & VT_BYREF) || !V_BYREF(&argument))
         return;
     const VARTYPE type = VARTYPE(V_VT(&argument) & ~VT_BYREF);
     if (type == VT_VARIANT) {

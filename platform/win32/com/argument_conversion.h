@@ -3,14 +3,15 @@
 #include "core/ole_color.h"
 #include "core/ole_date.h"
 #include "core/string.h"
+#include "platform/win32/com/ole_variant.h"
 #include "platform/win32/windows_api.h"
 #include <cstdint>
 #include <oleauto.h>
 
 namespace tolva::win32 {
 
-// Values arriving through Invoke, coerced as the calling languages coerce them (VariantChangeType:
-// "12" and 12.0 are numbers, True is -1, an object gives its default value). A value that does
+// Values arriving through Invoke, coerced as the calling languages coerce them (VariantChangeType
+// on the PlainArgument: "12" and 12.0 are numbers, True is -1, an object gives its default value). A value that does
 // not convert throws ComError with DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW.
 bool ToBool(const VARIANT& value);
 int16_t ToInt16(const VARIANT& value);
@@ -41,6 +42,13 @@ void PutText(VARIANT& target, StringView value);
 // itself. A by-reference value without its reference, or a reference to another reference,
 // throws ComError with DISP_E_TYPEMISMATCH.
 const VARIANT& Referenced(const VARIANT& value);
+
+// The plain value an argument stands for, copied into result: what a reference refers to, and
+// an object reduced to its default value, followed at most 8 objects deep (an object whose
+// default value is itself would otherwise recurse the conversion to death). Every conversion of
+// an argument goes through here. An object without a default value, or nested deeper, throws
+// ComError with DISP_E_TYPEMISMATCH, as Referenced does.
+void PlainArgument(OleVariant& result, const VARIANT& value);
 
 // True for an omitted optional argument (VT_ERROR holding DISP_E_PARAMNOTFOUND).
 bool IsMissing(const VARIANT& value);

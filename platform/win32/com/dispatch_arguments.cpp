@@ -11,7 +11,12 @@ DispatchArguments::DispatchArguments(const DISPPARAMS& params, bool assignment, 
 
 bool DispatchArguments::Has(size_t index) const
 {
-    return index < m_count && !IsMissing(At(index));
+    return index < m_count && !IsPassedAsMissing(index);
+}
+
+bool DispatchArguments::IsPassedAsMissing(size_t index) const
+{
+    return Guard(DispatchIndex(index), [&] { return IsMissing(At(index)); });
 }
 
 } // namespace tolva::win32

@@ -32,7 +32,10 @@ public:
 
     size_t Count() const { return m_count; }
     // Whether argument index was given (optional ones may be left out or passed as missing).
+    // A reference without its target throws an ArgumentError naming the argument.
     bool Has(size_t index) const;
+    // Whether argument index is there but passed as missing; guarded as Has.
+    bool IsPassedAsMissing(size_t index) const;
     const VARIANT& At(size_t index) const { return m_params.rgvarg[DispatchIndex(index)]; }
     const VARIANT& Value() const { return m_params.rgvarg[0]; } // assignments only
 

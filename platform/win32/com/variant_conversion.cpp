@@ -44,8 +44,9 @@ void ToOleVariant(const Variant& value, VARIANT& target)
 
 Variant ArgumentVariant(const VARIANT& value)
 {
-    const VARIANT* v = V_VT(&value) == (VT_BYREF | VT_VARIANT) ? V_VARIANTREF(&value) : &value;
-    switch (V_VT(v) & ~VT_BYREF) {
+    OleVariant plain;
+    PlainArgument(plain, value);
+    switch (plain.Type()) {
     case VT_EMPTY:
     case VT_BOOL:
     case VT_I1:
@@ -64,7 +65,7 @@ Variant ArgumentVariant(const VARIANT& value)
     case VT_CY:
     case VT_DATE:
     case VT_BSTR:
-        return FromOleVariant(*v);
+        return FromOleVariant(plain.Get());
     default:
         break;
     }

@@ -9,8 +9,9 @@ namespace tolva::win32 {
 // The target must be empty (VariantInit).
 void ToOleVariant(const Variant& value, VARIANT& target);
 
-// An argument that is declared VARIANT, as the core's value: a plain value, also by reference.
-// An object, Null or any other kind the core has no value for is refused (DISP_E_TYPEMISMATCH).
+// An argument that is declared VARIANT, as the core's value: the PlainArgument it stands for
+// (an object gives its default value, as for every argument). Null or any other kind the core
+// has no value for is refused (DISP_E_TYPEMISMATCH).
 Variant ArgumentVariant(const VARIANT& value);
 
 // A VARIANT from a property bag as the core's value. Unsigned and other integer types become the

@@ -191,7 +191,7 @@ TEST_F(CommandStream, MalformedValuesAreRefused)
     Poke<int64_t>(negativeSize, font.size() - 13, -1);
     ExpectRefused(negativeSize);
     std::vector<uint8_t> unknownFlag = font;
-    unknownFlag.back() = 0x80;
+    Poke<uint8_t>(unknownFlag, font.size() - 1, 0x80);
     ExpectRefused(unknownFlag);
 }
 

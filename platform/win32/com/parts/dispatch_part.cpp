@@ -22,7 +22,7 @@ HRESULT CheckArguments(const DispatchMember& member, const DispatchArguments& ar
     if (arguments.Count() < member.RequiredParameters() || arguments.Count() > member.parameters.size())
         return DISP_E_BADPARAMCOUNT;
     for (size_t i = 0; i < arguments.Count(); ++i) {
-        if (arguments.Convert(i, &IsMissing) && !member.parameters[i].optional) {
+        if (arguments.IsPassedAsMissing(i) && !member.parameters[i].optional) {
             if (argumentError)
                 *argumentError = arguments.DispatchIndex(i);
             return DISP_E_PARAMNOTOPTIONAL;
