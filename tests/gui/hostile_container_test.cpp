@@ -59,6 +59,13 @@ void UseEveryMember(IDispatch* control, const ControlClass& controlClass,
     }
 }
 
+// Closes whatever menu is open: a right click on a text box opens its context menu, whose modal
+// loop would otherwise wait for a user.
+void CALLBACK CloseMenus(HWND, UINT, UINT_PTR, DWORD)
+{
+    EndMenu();
+}
+
 class HostileContainer : public AtlHosted, public testing::WithParamInterface<const ControlClass*> {
 protected:
     const ControlClass& Class() const { return *GetParam(); }
@@ -119,6 +126,7 @@ protected:
             if (target.kind == Target::Notification)
                 act();
         });
+        const UINT_PTR menuCloser = SetTimer(nullptr, 0, 100, CloseMenus);
         for (HWND w : WindowsOf(window)) {
             for (UINT message : { WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_RBUTTONDOWN,
                      WM_RBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP }) {
@@ -151,6 +159,7 @@ protected:
         if (dispatch)
             UseEveryMember(dispatch.Get(), Class(), [&] { return behaviour == Behaviour::DestroyContainer && acted; });
         PumpFor(20);
+        KillTimer(nullptr, menuCloser);
         if (behaviour == Behaviour::Unadvise || behaviour == Behaviour::Reenter)
             ExpectAnswering();
         return acted;
