@@ -1,5 +1,4 @@
 #include "core/memory_property_bag.h"
-#include <algorithm>
 
 namespace tolva {
 
@@ -13,28 +12,38 @@ Variant MemoryPropertyBag::ReadProperty(StringView key, const Variant& defaultVa
 void MemoryPropertyBag::WriteProperty(StringView key, const Variant& value, const Variant& defaultValue)
 {
     m_operations.push_back({ OperationKind::Write, String(key), defaultValue });
-    if (value == defaultValue) {
-        std::erase_if(m_entries, [key](const auto& entry) { return entry.first == key; });
-        return;
-    }
-    Set(key, value);
+    if (value == defaultValue)
+        Erase(key);
+    else
+        Set(key, value);
 }
 
 void MemoryPropertyBag::Set(StringView key, Variant value)
 {
-    auto found
-        = std::find_if(m_entries.begin(), m_entries.end(), [key](const auto& entry) { return entry.first == key; });
-    if (found != m_entries.end())
-        found->second = std::move(value);
-    else
+    const auto [position, added] = m_positions.try_emplace(String(key), m_entries.size());
+    if (added)
         m_entries.emplace_back(String(key), std::move(value));
+    else
+        m_entries[position->second].second = std::move(value);
+}
+
+void MemoryPropertyBag::Erase(StringView key)
+{
+    const auto found = m_positions.find(String(key));
+    if (found == m_positions.end())
+        return;
+    const size_t erased = found->second;
+    m_positions.erase(found);
+    m_entries.erase(m_entries.begin() + std::ptrdiff_t(erased));
+    for (auto& [_, position] : m_positions)
+        if (position > erased)
+            --position;
 }
 
 const Variant* MemoryPropertyBag::Find(StringView key) const
 {
-    auto found
-        = std::find_if(m_entries.begin(), m_entries.end(), [key](const auto& entry) { return entry.first == key; });
-    return found != m_entries.end() ? &found->second : nullptr;
+    const auto found = m_positions.find(String(key));
+    return found != m_positions.end() ? &m_entries[found->second].second : nullptr;
 }
 
 std::vector<String> MemoryPropertyBag::KeysOf(OperationKind kind) const

@@ -1,5 +1,6 @@
 #pragma once
 #include "core/property_bag.h"
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -8,6 +9,8 @@ namespace tolva {
 // An in-memory bag that keeps entries in the order they were first written and records every
 // operation, so that key order and defaults can be checked. Like the hosts' bags, it omits a
 // written value equal to its default (and removes an entry stored earlier under that key).
+// Keys are found through an index: a control with thousands of array elements saves in linear
+// time.
 class MemoryPropertyBag final : public PropertyBag {
 public:
     enum class OperationKind { Read, Write };
@@ -29,7 +32,10 @@ public:
     void ClearOperations() { m_operations.clear(); }
 
 private:
+    void Erase(StringView key);
+
     std::vector<std::pair<String, Variant>> m_entries;
+    std::unordered_map<String, size_t> m_positions; // key -> index in m_entries
     std::vector<Operation> m_operations;
 };
 

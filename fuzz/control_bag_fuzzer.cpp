@@ -114,7 +114,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
     } catch (const AutomationError&) {
         // Refused: the control carries on as it was.
     }
-    control->Show(width, height);
+    try {
+        control->Show(width, height);
+    } catch (const AutomationError&) {
+        // A paint may fail with the control's error (a list whose restored row count has no
+        // rows); the window procedure takes it, as the DLL's does.
+    }
     MemoryPropertyBag saved = Saved(*control);
     CheckStream(saved);
     CheckRoundTrip(create, saved);

@@ -1,6 +1,8 @@
 #include "fuzz/headless_controls.h"
 #include "controls/command/tolva_command.h"
+#include "controls/input/tolva_input.h"
 #include "controls/label/tolva_label.h"
+#include "controls/list/tolva_list.h"
 #include "controls/scroll/tolva_scroll.h"
 #include "controls/tabs/tolva_tabs.h"
 
@@ -26,7 +28,9 @@ template <class Control> std::unique_ptr<HeadlessControl> Create()
 
 constexpr HeadlessControlFactory Controls[] = {
     &Create<TolvaCommand>,
+    &Create<TolvaInput>,
     &Create<TolvaLabel>,
+    &Create<TolvaList>,
     &Create<TolvaScroll>,
     &Create<TolvaTabs>,
 };

@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-3600}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(property_stream_fuzzer control_bag_fuzzer form_reader_fuzzer)
+[ ${#targets[@]} -gt 0 ] || targets=(property_stream_fuzzer control_bag_fuzzer form_reader_fuzzer format_fuzzer text_reading_fuzzer)
 
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz

@@ -1,7 +1,10 @@
 // Call-outs a client turns against the control. For every event and property notification of
 // every control class: a sink that releases the last reference to the control, one that
-// unadvises itself, and one that sets every property and calls every method of the same
-// control, each inside that call-out. Nothing may crash or run on a freed control (the test
+// unadvises itself, one that sets every property and calls every method of the same control,
+// and one that writes the ends of their types into the by-reference arguments of events, each
+// inside that call-out. The control is driven by input, assignments, method calls with
+// arguments (the pop-up protocol's answers among them), its font object, loading and ambient
+// changes. Nothing may crash or run on a freed control (the test
 // programs poison freed memory), and a control still held answers afterwards. The same with
 // real windows, and a sink that destroys the container, is in the GUI suite.
 #include "platform/win32/com/bstr.h"
@@ -13,13 +16,16 @@
 #include "tests/win32/support/notify_sink.h"
 #include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
+#include <cfloat>
+#include <climits>
+#include <cmath>
 #include <olectl.h>
 #include <set>
 
 namespace tolva::win32::test {
 namespace {
 
-enum class Behaviour { ReleaseControl, Unadvise, Reenter };
+enum class Behaviour { ReleaseControl, Unadvise, Reenter, RewriteArguments };
 
 // The call-out a sink turns against the control: an event by its id, or a notification.
 struct Target {
@@ -57,6 +63,106 @@ VARIANT Typical(OleType type, int round)
         break;
     }
     return v;
+}
+
+// The words the pop-ups answer with, and texts and numbers at the edges, for methods' arguments.
+const wchar_t* const Words[] = { L"", L"SELECT", L"CANCEL", L"C", L"#", L"+", L"-", L"*", L"/", L"=", L"B", L"S",
+    L".", L"&Item" };
+
+// An argument of type for a method: text is word, a number is number. by reference, the
+// variant refers to storage, which must outlive the call.
+VARIANT Argument(const TypeSpec& type, const wchar_t* word, int number, VARIANT& storage)
+{
+    VariantInit(&storage);
+    switch (type.type) {
+    case OleType::String:
+        V_VT(&storage) = VT_BSTR;
+        V_BSTR(&storage) = SysAllocString(word);
+        break;
+    case OleType::Bool:
+        V_VT(&storage) = VT_BOOL;
+        V_BOOL(&storage) = number % 2 ? VARIANT_TRUE : VARIANT_FALSE;
+        break;
+    case OleType::Currency:
+        V_VT(&storage) = VT_CY;
+        V_CY(&storage).int64 = LONGLONG(number) * 10000;
+        break;
+    default:
+        V_VT(&storage) = VT_I4;
+        V_I4(&storage) = number;
+        break;
+    }
+    if (!type.byReference)
+        return storage;
+    VARIANT reference;
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &storage;
+    return reference;
+}
+
+// Calls every method that takes arguments with each of the words and numbers, after setting
+// every enumerated property to each of its first values (a style decides which pop-up answers),
+// until gone says the control was released meanwhile.
+void CallEveryMethodWithArguments(IDispatch* control, const ControlClass& controlClass,
+    const std::function<bool()>& gone)
+{
+    for (LONG choice = 0; choice < 4; ++choice) {
+        for (const DispatchMember& member : controlClass.members) {
+            if (member.isMethod || !member.parameters.empty() || !member.type.enumName || !member.let || gone())
+                continue;
+            VARIANT value;
+            V_VT(&value) = VT_I4;
+            V_I4(&value) = choice;
+            DISPID named = DISPID_PROPERTYPUT;
+            DISPPARAMS put = { &value, &named, 1, 1 };
+            control->Invoke(member.id, IID_NULL, 0, DISPATCH_PROPERTYPUT, &put, nullptr, nullptr, nullptr);
+        }
+        for (const DispatchMember& member : controlClass.members) {
+            if (!member.isMethod || member.parameters.empty())
+                continue;
+            for (size_t word = 0; word < std::size(Words); ++word) {
+                if (gone())
+                    return;
+                const size_t count = member.parameters.size();
+                std::vector<VARIANT> storage(count), arguments(count);
+                for (size_t i = 0; i < count; ++i)
+                    arguments[count - 1 - i] = Argument(member.parameters[i], Words[word], int(word % 4), storage[i]);
+                DISPPARAMS params = { arguments.data(), nullptr, UINT(count), 0 };
+                VARIANT result;
+                VariantInit(&result);
+                control->Invoke(member.id, IID_NULL, 0, DISPATCH_METHOD, &params, &result, nullptr, nullptr);
+                VariantClear(&result);
+                for (VARIANT& v : storage)
+                    VariantClear(&v);
+            }
+        }
+    }
+}
+
+// Writes the ends of their types into an event's by-reference arguments, as a handler may:
+// the control goes on with what it finds there.
+void RewriteByReference(const std::vector<VARIANT*>& arguments, int round)
+{
+    for (VARIANT* v : arguments) {
+        if (!(V_VT(v) & VT_BYREF) || !V_BYREF(v))
+            continue;
+        switch (V_VT(v) & ~VT_BYREF) {
+        case VT_I2:
+            *V_I2REF(v) = round % 3 == 0 ? SHORT(SHRT_MIN) : round % 3 == 1 ? SHORT(SHRT_MAX) : SHORT(-1);
+            break;
+        case VT_I4:
+            *V_I4REF(v) = round % 2 ? LONG(INT_MIN) : LONG(INT_MAX);
+            break;
+        case VT_R4:
+            *V_R4REF(v) = round % 3 == 0 ? NAN : round % 3 == 1 ? HUGE_VALF : -FLT_MAX;
+            break;
+        case VT_BOOL:
+            *V_BOOLREF(v) = VARIANT_BOOL(0x1234);
+            break;
+        default:
+            break;
+        }
+    }
 }
 
 // Sets every property of control and calls every method, as a handler may, until gone says
@@ -145,6 +251,10 @@ protected:
                 [&controlClass](ControlObject&, IDispatch* control, const std::function<bool()>& gone) {
                     UseEveryMember(control, controlClass, 1, gone);
                 } },
+            { "methods with arguments",
+                [&controlClass](ControlObject&, IDispatch* control, const std::function<bool()>& gone) {
+                    CallEveryMethodWithArguments(control, controlClass, gone);
+                } },
             { "font object", [this](ControlObject&, IDispatch* control, const std::function<bool()>&) {
                  ChangeLiveFont(control);
              } },
@@ -178,7 +288,13 @@ protected:
         if (behaviour == Behaviour::ReleaseControl)
             heldBySink = std::move(object);
         bool acted = false;
-        auto act = [&] {
+        int rewrites = 0;
+        auto act = [&](const std::vector<VARIANT*>& arguments) {
+            if (behaviour == Behaviour::RewriteArguments) {
+                RewriteByReference(arguments, rewrites++);
+                acted = true;
+                return;
+            }
             if (acted)
                 return;
             acted = true;
@@ -197,15 +313,17 @@ protected:
             case Behaviour::Reenter:
                 UseEveryMember(control, Class(), 2);
                 break;
+            case Behaviour::RewriteArguments:
+                break;
             }
         };
-        events->OnEvent([&](DISPID id, const std::vector<VARIANT*>&) {
+        events->OnEvent([&](DISPID id, const std::vector<VARIANT*>& arguments) {
             if (!target.notification && id == target.id)
-                act();
+                act(arguments);
         });
         notifications->OnNotification([&](DISPID, bool) {
             if (target.notification)
-                act();
+                act({});
         });
 
         stimulus.run(*raw, control, [&] { return behaviour == Behaviour::ReleaseControl && acted; });
@@ -272,7 +390,8 @@ protected:
 TEST_P(Reentrancy, EveryCallOutSurvivesEverySink)
 {
     std::set<std::pair<bool, DISPID>> reached;
-    for (Behaviour behaviour : { Behaviour::ReleaseControl, Behaviour::Unadvise, Behaviour::Reenter }) {
+    for (Behaviour behaviour :
+        { Behaviour::ReleaseControl, Behaviour::Unadvise, Behaviour::Reenter, Behaviour::RewriteArguments }) {
         for (const Target& target : Targets()) {
             for (const Stimulus& stimulus : Stimuli()) {
                 SCOPED_TRACE(testing::Message() << "behaviour " << int(behaviour) << ", "

@@ -1,6 +1,7 @@
 // Whatever a control takes, it saves, and whatever it saves, it loads back: every property of
-// every control class at the ends of its type, alone and all at once, through the stream and
-// the property bag. A save may refuse what its medium cannot hold, but only before it wrote
+// every control class at the ends of its type, alone and all at once, and what methods with
+// arguments at their ends and indexed properties leave (a list's columns), through the stream
+// and the property bag. A save may refuse what its medium cannot hold, but only before it wrote
 // anything.
 #include "core/memory_property_bag.h"
 #include "core/property_stream_format.h"
@@ -164,18 +165,45 @@ class RoundTrip : public testing::TestWithParam<const ControlClass*> {
 protected:
     ComPtr<IUnknown> Create() const { return ControlObject::Create(*GetParam()); }
 
-    // Assigns value to member; a refusal is the control's to make and leaves what it holds.
-    static void Assign(const ComPtr<IUnknown>& object, const DispatchMember& member, const Extreme& value)
+    // Assigns value to member at index (for an indexed property); a refusal is the control's to
+    // make and leaves what it holds.
+    static void Assign(const ComPtr<IUnknown>& object, const DispatchMember& member, const Extreme& value, LONG index = 1)
     {
-        VARIANT argument;
-        VariantInit(&argument);
-        value.make(argument);
+        // The assigned value first, then the index arguments last to first.
+        std::vector<VARIANT> arguments(1 + member.parameters.size());
+        for (VARIANT& v : arguments) {
+            V_VT(&v) = VT_I4;
+            V_I4(&v) = index;
+        }
+        value.make(arguments[0]);
         DISPID named = DISPID_PROPERTYPUT;
-        DISPPARAMS params = { &argument, &named, 1, 1 };
+        DISPPARAMS params = { arguments.data(), &named, UINT(arguments.size()), 1 };
         WORD flags = value.byReference ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT;
         object.As<IDispatch>(IID_IDispatch)->Invoke(
             member.id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, nullptr, nullptr, nullptr);
-        VariantClear(&argument);
+        VariantClear(&arguments[0]);
+    }
+
+    // Calls method with each argument at extreme number choice of its type.
+    static void Call(const ComPtr<IUnknown>& object, const DispatchMember& method, size_t choice)
+    {
+        const size_t count = method.parameters.size();
+        std::vector<VARIANT> arguments(count);
+        for (size_t i = 0; i < count; ++i) {
+            VARIANT& v = arguments[count - 1 - i];
+            VariantInit(&v);
+            std::vector<Extreme> extremes = ExtremesOf(method.parameters[i].type);
+            if (!extremes.empty())
+                extremes[choice % extremes.size()].make(v);
+        }
+        DISPPARAMS params = { arguments.data(), nullptr, UINT(count), 0 };
+        VARIANT result;
+        VariantInit(&result);
+        object.As<IDispatch>(IID_IDispatch)->Invoke(
+            method.id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, &result, nullptr, nullptr);
+        VariantClear(&result);
+        for (VARIANT& v : arguments)
+            VariantClear(&v);
     }
 
     // Saves object to a stream and to a bag and loads each into a new object of its class: the
@@ -205,13 +233,22 @@ protected:
         EXPECT_EQ(DifferingKeys(*GetParam(), expected, Saved(loaded)), std::vector<std::string>()) << "through the bag";
     }
 
-    std::vector<const DispatchMember*> Assignable() const
+    std::vector<const DispatchMember*> Assignable(bool indexed = false) const
     {
         std::vector<const DispatchMember*> members;
         for (const DispatchMember& member : GetParam()->members)
-            if (!member.isMethod && member.parameters.empty() && (member.let || member.set))
+            if (!member.isMethod && member.parameters.empty() != indexed && (member.let || member.set))
                 members.push_back(&member);
         return members;
+    }
+
+    std::vector<const DispatchMember*> MethodsWithArguments() const
+    {
+        std::vector<const DispatchMember*> methods;
+        for (const DispatchMember& member : GetParam()->members)
+            if (member.isMethod && !member.parameters.empty())
+                methods.push_back(&member);
+        return methods;
     }
 };
 
@@ -234,6 +271,25 @@ TEST_P(RoundTrip, EveryPropertyAtOnce)
         SCOPED_TRACE(testing::Message() << "round " << round);
         ComPtr<IUnknown> object = Create();
         for (const DispatchMember* member : Assignable()) {
+            std::vector<Extreme> extremes = ExtremesOf(member->type.type);
+            if (!extremes.empty())
+                Assign(object, *member, extremes[round % extremes.size()]);
+        }
+        ExpectSavedAndLoadedBack(object);
+    }
+}
+
+// Methods with their arguments at the ends of their types (a column of a huge caption and the
+// widest width), twice so that there is an item 1, then every indexed property at item 1.
+TEST_P(RoundTrip, WhatMethodsAndIndexedPropertiesLeave)
+{
+    for (size_t round = 0; round < 7; ++round) {
+        SCOPED_TRACE(testing::Message() << "round " << round);
+        ComPtr<IUnknown> object = Create();
+        for (int twice = 0; twice < 2; ++twice)
+            for (const DispatchMember* method : MethodsWithArguments())
+                Call(object, *method, round);
+        for (const DispatchMember* member : Assignable(true)) {
             std::vector<Extreme> extremes = ExtremesOf(member->type.type);
             if (!extremes.empty())
                 Assign(object, *member, extremes[round % extremes.size()]);
