@@ -1,5 +1,6 @@
 #include "host/form/form_writer.h"
 #include "host/form/form_literal.h"
+#include "host/form/form_reader.h"
 
 namespace tolva {
 
@@ -58,6 +59,13 @@ std::string FormWriter::Write(const FormObject& form)
 {
     std::string out = "VERSION 5.00\n";
     WriteObject(out, 0, form);
+    // The reader's bound on a line, kept here so that what is written reads back: a text's
+    // characters may take up to three bytes each, and each level of nesting three columns.
+    for (size_t start = 0, end; start < out.size(); start = end + 1) {
+        end = out.find('\n', start);
+        if (end - start > FormReader::MaxLineLength)
+            throw FormLiteralError("a line would be longer than the 4096 characters a form file holds");
+    }
     return out;
 }
 

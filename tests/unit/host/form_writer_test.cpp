@@ -95,6 +95,18 @@ TEST(FormWriter, RefusesValuesAFormFileCannotHold)
     EXPECT_THROW(FormWriter::Write(form), FormLiteralError);
     form.Set(u"Caption", Variant());
     EXPECT_THROW(FormWriter::Write(form), FormLiteralError);
+    // A line the reader would refuse: 1,400 characters that take three bytes each in the file
+    // (as 1,400 bytes that are not UTF-8 read back), or objects nested past 4,096 columns.
+    form.Set(u"Caption", String(1400, u'\xFFFD'));
+    EXPECT_THROW(FormWriter::Write(form), FormLiteralError);
+    form.Set(u"Caption", String(1300, u'\xFFFD'));
+    EXPECT_NO_THROW(FormReader::Read(FormWriter::Write(form)));
+    FormObject* inner = &form;
+    for (int depth = 0; depth < 1400; ++depth) {
+        inner->children.push_back(FormObject { u"VB.Menu", u"mnu" + FromUtf8(std::to_string(depth)) });
+        inner = &inner->children.back();
+    }
+    EXPECT_THROW(FormWriter::Write(form), FormLiteralError);
 }
 
 TEST(FormLiteral, WritesCurrencyExactlyAndKeepsDoublesRoundTripping)
