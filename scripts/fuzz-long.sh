@@ -21,7 +21,7 @@ for target in "${targets[@]}"; do
     crashes=build/fuzz/crashes/$target
     mkdir -p "$corpus" "$crashes"
     echo "== $target $(date -u +%FT%TZ) up to ${seconds}s" | tee -a "$log"
-    nice -n 19 "$binary" -max_total_time="$seconds" -runs=10000000 -timeout=10 -rss_limit_mb=2048 \
+    nice -n 19 "$binary" -max_total_time="$seconds" -runs=10000000 -timeout=30 -rss_limit_mb=2048 \
         -print_final_stats=1 -artifact_prefix="$crashes/" "$corpus" "fuzz/seeds/$target" 2>&1 \
         | grep -E '^(stat::|Done|==[0-9]+==|SUMMARY|#[0-9]+ *DONE)' | tee -a "$log"
 done
