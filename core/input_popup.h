@@ -108,7 +108,7 @@ public:
     // The owner's items (its hidden list box); item 0 is never offered. The list box lives as
     // long as its owner, which unloads the pop-up before it goes.
     virtual void SetList(const ListBox* items) = 0;
-    virtual int32_t TopIndex() const = 0;
+    virtual int32_t TopIndex() = 0; // may repaint the list first
     virtual void SetTopIndex(int32_t index) = 0;
     virtual void SetScrollBarVisible(bool visible) = 0;
     // The highlighted item, one-based as "SELECT" reports it; set by the owner without a

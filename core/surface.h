@@ -33,6 +33,7 @@ public:
     virtual void OnAccessKeyPress(char16_t /*key*/) {}
     virtual void OnGotFocus() {}
     virtual void OnLostFocus() {}
+    virtual void OnDeactivate() {} // a pop-up window is no longer the active window
 };
 
 // How a fixed single border looks, as a form designer's Appearance: flat, a one-pixel black

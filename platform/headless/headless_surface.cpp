@@ -62,8 +62,21 @@ void HeadlessSurface::SetAppearance(int16_t appearance)
     ResizeWindowImage();
 }
 
+void HeadlessSurface::SetVisible(bool visible)
+{
+    SurfaceProperties::SetVisible(visible);
+    if (!m_popupWindow)
+        return;
+    if (visible)
+        m_tree.Activate(this);
+    else if (m_tree.Active() == this)
+        m_tree.Activate(nullptr);
+}
+
 PixelPoint HeadlessSurface::ScreenOrigin() const
 {
+    if (m_popupWindow)
+        return { Pixels(Left()) + BorderPixels(), Pixels(Top()) + BorderPixels() };
     if (!m_parent)
         return m_screenOrigin;
     const PixelPoint parentOrigin = m_parent->ScreenOrigin();

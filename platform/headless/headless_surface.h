@@ -26,6 +26,8 @@ public:
     void Move(float left, float top, float width, float height) override;
     void SetBorderStyle(int16_t style) override;
     void SetAppearance(int16_t appearance) override;
+    // A pop-up window becomes the active window when shown and gives it up when hidden.
+    void SetVisible(bool visible) override;
     bool HasFocus() const override { return m_tree.Focus() == this; }
     // Takes the keyboard focus (LostFocus to the surface that had it, GotFocus here).
     void SetFocus() override;
@@ -54,6 +56,10 @@ public:
     int PresentCount() const { return m_presents; }
     // The client origin on the screen of a surface without parent; children add their offsets.
     void SetScreenOrigin(PixelPoint origin) { m_screenOrigin = origin; }
+    // Makes a surface without parent a top-level pop-up window: placed on the screen by Move,
+    // active while it shows.
+    void MakePopupWindow() { m_popupWindow = true; }
+    bool IsPopupWindow() const { return m_popupWindow; }
     // Enabled here and in every ancestor.
     bool AcceptsInput() const;
 
@@ -87,6 +93,7 @@ private:
     SurfaceListener* m_listener = nullptr;
     RasterCanvas m_window { 0, 0 };
     PixelPoint m_screenOrigin;
+    bool m_popupWindow = false;
     int m_refreshes = 0;
     int m_presents = 0;
 };

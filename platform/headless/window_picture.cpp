@@ -31,7 +31,8 @@ void DrawFlatFrame(RasterCanvas& image, int32_t left, int32_t top, int32_t right
     image.FillRect(right - 1, top, right, bottom, black);
 }
 
-// Draws the window with its outer top-left corner at (left, top), then its children over it.
+// Draws the window with its outer top-left corner at (left, top), then its visible children over
+// it, the later ones on top.
 void Compose(RasterCanvas& image, const HeadlessSurface& window, int32_t left, int32_t top)
 {
     const int32_t border = window.BorderPixels();
@@ -43,7 +44,8 @@ void Compose(RasterCanvas& image, const HeadlessSurface& window, int32_t left, i
     const RasterCanvas& client = window.WindowImage();
     image.CopyFrom(client, left + border, top + border, client.Width(), client.Height());
     for (const HeadlessSurface* child : window.Children())
-        Compose(image, *child, left + border + Pixels(child->Left()), top + border + Pixels(child->Top()));
+        if (child->Visible())
+            Compose(image, *child, left + border + Pixels(child->Left()), top + border + Pixels(child->Top()));
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 namespace tolva::headless {
 
 // The window as a form shows it, outer size in pixels: its border (a one-pixel black frame when
-// flat, the sunken client edge in 3D), its client area, and over it the windows of its children
-// with theirs.
+// flat, the sunken client edge in 3D), its client area, and over it the windows of its visible
+// children with theirs.
 RasterCanvas WindowPicture(const HeadlessSurface& window);
 
 } // namespace tolva::headless

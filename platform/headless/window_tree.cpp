@@ -16,8 +16,20 @@ void WindowTree::SetFocus(HeadlessSurface* surface)
         surface->Listener()->OnGotFocus();
 }
 
+void WindowTree::Activate(HeadlessSurface* surface)
+{
+    HeadlessSurface* previous = m_active;
+    if (previous == surface)
+        return;
+    m_active = surface;
+    if (previous && previous->Listener())
+        previous->Listener()->OnDeactivate();
+}
+
 void WindowTree::Forget(const HeadlessSurface* surface)
 {
+    if (m_active == surface)
+        m_active = nullptr;
     if (m_focus == surface)
         m_focus = nullptr;
     if (m_capture == surface)

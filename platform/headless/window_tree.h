@@ -8,7 +8,7 @@ namespace tolva::headless {
 class HeadlessSurface;
 
 // What the window manager keeps for a set of headless surfaces: which one has the keyboard
-// focus, which one holds the mouse capture, and the clock their timers run on. The tree must
+// focus, which one holds the mouse capture, which pop-up window is active, and the clock their timers run on. The tree must
 // outlive its surfaces.
 class WindowTree {
 public:
@@ -18,6 +18,9 @@ public:
 
     HeadlessSurface* Focus() const { return m_focus; }
     HeadlessSurface* Capture() const { return m_capture; }
+    // The active top-level window: a pop-up window while it shows, else nullptr (the form or
+    // another application).
+    HeadlessSurface* Active() const { return m_active; }
     VirtualClock& Clock() { return m_clock; }
     // The screen the windows are on, in pixels (1024 x 768 unless set), and its clipboard text.
     PixelPoint ScreenSize() const { return m_screenSize; }
@@ -30,12 +33,16 @@ public:
     void SetCapture(HeadlessSurface* surface) { m_capture = surface; }
     void ReleaseCapture() { m_capture = nullptr; }
 
+    // Makes another window active; the one that was active is told OnDeactivate first.
+    void Activate(HeadlessSurface* surface);
+
     // Drops a destroyed surface from focus and capture without notifying anyone.
     void Forget(const HeadlessSurface* surface);
 
 private:
     HeadlessSurface* m_focus = nullptr;
     HeadlessSurface* m_capture = nullptr;
+    HeadlessSurface* m_active = nullptr;
     VirtualClock m_clock;
     PixelPoint m_screenSize { 1024, 768 };
     String m_clipboard;

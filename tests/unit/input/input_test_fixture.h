@@ -150,7 +150,7 @@ public:
         Note(items ? "SetList" : "SetList none");
         list = items;
     }
-    int32_t TopIndex() const override { return topIndex; }
+    int32_t TopIndex() override { return topIndex; }
     void SetTopIndex(int32_t index) override
     {
         Note("SetTopIndex " + std::to_string(index));
