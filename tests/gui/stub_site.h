@@ -49,7 +49,7 @@ public:
     void Beep() override { }
     void ShowAboutBox() override { }
     Formatter& Formatting() override { return formatter; }
-    InputPopups& Popups() override { return ThreadPopups(); }
+    InputPopups& Popups() override { return popups.Get(); }
 
     bool displayAsDefault = false;
     String extenderName = u"Command1";
@@ -58,6 +58,7 @@ public:
     StubParentForm* parent = nullptr;
     std::vector<String> changes;
     OleFormatter formatter;
+    ThreadPopups popups;
 };
 
 } // namespace tolva::win32::test

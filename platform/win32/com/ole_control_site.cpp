@@ -171,7 +171,7 @@ void OleControlSite::ShowAboutBox()
 
 InputPopups& OleControlSite::Popups()
 {
-    return ThreadPopups();
+    return m_popups.Get();
 }
 
 } // namespace tolva::win32

@@ -2,6 +2,7 @@
 #include "core/control_site.h"
 #include "platform/win32/com/com_ptr.h"
 #include "platform/win32/com/ole_formatter.h"
+#include "platform/win32/window/thread_popups.h"
 #include "platform/win32/windows_api.h"
 #include <functional>
 #include <memory>
@@ -55,6 +56,7 @@ private:
     ComPtr<IOleClientSite> m_clientSite;
     std::unique_ptr<DispatchParentForm> m_parent;
     OleFormatter m_formatter;
+    ThreadPopups m_popups;
 };
 
 } // namespace tolva::win32

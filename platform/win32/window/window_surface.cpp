@@ -94,7 +94,7 @@ void WindowSurface::CreateWindowIn(HWND parent, const RECT& rect)
 
 void WindowSurface::CreateOwnWindow(HWND parent)
 {
-    DWORD style = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
+    DWORD style = (m_popup ? WS_POPUP : WS_CHILD | WS_CLIPSIBLINGS) | WS_CLIPCHILDREN;
     if (Visible())
         style |= WS_VISIBLE;
     if (!Enabled())
@@ -103,7 +103,7 @@ void WindowSurface::CreateOwnWindow(HWND parent)
         style |= WS_TABSTOP;
     style |= BorderStyleBits();
     const RECT rect = PixelRect();
-    CreateWindowExW(BorderExStyleBits(), ClassName(), L"", style, rect.left, rect.top, rect.right - rect.left,
+    CreateWindowExW(BorderExStyleBits() | (m_popup ? WS_EX_TOOLWINDOW : 0), ClassName(), L"", style, rect.left, rect.top, rect.right - rect.left,
         rect.bottom - rect.top, parent, nullptr, Module::Handle(), this);
     if (!m_window)
         return;
@@ -351,7 +351,9 @@ void WindowSurface::SetVisible(bool visible)
     if (visible == Visible())
         return;
     SurfaceProperties::SetVisible(visible);
-    if (m_window)
+    if (m_popup)
+        ShowPopup(visible);
+    else if (m_window)
         ShowWindow(m_window, visible ? SW_SHOWNA : SW_HIDE);
 }
 
@@ -534,6 +536,10 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
     case WM_SIZE:
         OnSizeMessage(window);
         return 0;
+    case WM_ACTIVATE:
+        if (m_popup)
+            return OnActivateMessage(window, wParam, lParam);
+        return DefWindowProcW(window, message, wParam, lParam);
     case WM_SHOWWINDOW:
         if (SurfaceListener* listener = Listener(); listener && !wParam)
             listener->OnHide();

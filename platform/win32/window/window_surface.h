@@ -37,6 +37,13 @@ public:
     // event raised from it may release the object (may be null).
     explicit WindowSurface(IUnknown* keepAlive = nullptr);
     ~WindowSurface() override;
+
+    // A top-level pop-up window of the library (a drop-down of a text entry), made at once: borderless,
+    // hidden, out of the task bar, placed on the screen by Move. Shown, it is owned by the active form
+    // and becomes the active window, while the form's caption keeps looking active; its listener hears
+    // OnDeactivate when another window becomes active. Hidden while active, it gives the activation and
+    // the focus back to where they were. keepAlive is held while a message is handled, as for a control.
+    static std::unique_ptr<WindowSurface> CreatePopupWindow(IUnknown* keepAlive);
     WindowSurface(const WindowSurface&) = delete;
     WindowSurface& operator=(const WindowSurface&) = delete;
 
@@ -120,6 +127,8 @@ private:
     void OnNcPaintMessage(HWND window);
     void OnMouseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void OnSizeMessage(HWND window);
+    LRESULT OnActivateMessage(HWND window, WPARAM wParam, LPARAM lParam);
+    void ShowPopup(bool visible);
     void CreateOwnWindow(HWND parent);
     // The window styles that give the window its border, and their application to the window.
     DWORD BorderStyleBits() const;
@@ -161,6 +170,12 @@ private:
     UINT m_dialogCodes = DLGC_WANTARROWS | DLGC_WANTCHARS;
     bool m_keepsEnter = true;
     bool m_moving = false;
+    // A pop-up window: its owner form while it shows, where the focus was before, and whether it is the
+    // active window (between its activation and deactivation messages).
+    bool m_popup = false;
+    HWND m_popupOwner = nullptr;
+    HWND m_focusBefore = nullptr;
+    bool m_popupActive = false;
     bool m_focused = false; // between WM_SETFOCUS and WM_KILLFOCUS
     bool m_captured = false; // from SetCapture until WM_CAPTURECHANGED
     int16_t m_buttonsDown = 0;
