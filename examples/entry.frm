@@ -81,6 +81,7 @@ Begin VB.Form frmEntry
       Style           =   3
       List0           =   "Office supplies"
       Locked          =   -1  'True
+      SelectionTracking =   -1  'True
    End
    Begin TolvaKit.TolvaLabel lblNote
       Left            =   240

@@ -14,13 +14,13 @@ struct PlayStep {
         Press, // press [left|right]: a mouse button goes down where the pointer is
         Release, // release [left|right]
         Click, // click <target> <x> <y>: move, press and release the left button
-        Key, // key <name>: a key goes down and up (Enter, Space, Escape, Tab, Down, A, 1 ...)
+        Key, // key <name>: a key goes down and up (Enter, Space, Escape, Tab, Down, Add, A, 1 ...)
         KeyDown, // keydown <name>
         KeyUp, // keyup <name>
         Alt, // alt <key>: the key with Alt held, an access key
         Type, // type <text>: the characters of a word, as typed
         Wait, // wait <milliseconds>
-        Shot, // shot <name>: a PNG picture of the form (and any open menu) named <name>.png
+        Shot, // shot <name>: a PNG picture of the form (with any open menu or drop-down) named <name>.png
         Close, // close: closes the form
     };
     Kind kind;

@@ -26,7 +26,7 @@ struct NamedKey {
     WORD key;
 };
 
-constexpr std::array<NamedKey, 19> NamedKeys { {
+constexpr std::array<NamedKey, 21> NamedKeys { {
     { u"Enter", VK_RETURN },
     { u"Space", VK_SPACE },
     { u"Escape", VK_ESCAPE },
@@ -46,6 +46,8 @@ constexpr std::array<NamedKey, 19> NamedKeys { {
     { u"F4", VK_F4 },
     { u"Period", VK_OEM_PERIOD },
     { u"Slash", VK_OEM_2 },
+    { u"Add", VK_ADD }, // the keypad's +
+    { u"Equals", VK_OEM_PLUS }, // = without Shift
 } };
 
 // The virtual key of a key name: the names above, or one letter or digit; 0 for none.
@@ -107,16 +109,25 @@ void MovePointer(POINT at)
     SendInput(1, &input, sizeof input);
 }
 
-// Pictures take in the open menus and the property frame.
-BOOL CALLBACK AddMenuRect(HWND window, LPARAM area)
+// What a picture of the form takes in besides the form: the open menus, the property frame, and
+// the windows the form owns (the drop-downs of its controls).
+struct ShotArea {
+    HWND form;
+    RECT rect;
+};
+
+BOOL CALLBACK AddMenuRect(HWND window, LPARAM parameter)
 {
+    auto& area = *reinterpret_cast<ShotArea*>(parameter);
     wchar_t className[64] = {};
     GetClassNameW(window, className, 64);
     const std::wstring_view name(className);
-    if (IsWindowVisible(window) && (name == L"#32768" || name == PropertyFrame::WindowClass)) {
-        RECT menu;
-        GetWindowRect(window, &menu);
-        UnionRect(reinterpret_cast<RECT*>(area), reinterpret_cast<RECT*>(area), &menu);
+    const bool taken
+        = name == L"#32768" || name == PropertyFrame::WindowClass || GetWindow(window, GW_OWNER) == area.form;
+    if (IsWindowVisible(window) && taken) {
+        RECT part;
+        GetWindowRect(window, &part);
+        UnionRect(&area.rect, &area.rect, &part);
     }
     return TRUE;
 }
@@ -279,9 +290,10 @@ void Player::TakeShot(StringView name) const
 {
     if (!m_form.IsOpen())
         return;
-    RECT area;
-    GetWindowRect(m_form.Window(), &area);
-    EnumThreadWindows(GetCurrentThreadId(), &AddMenuRect, reinterpret_cast<LPARAM>(&area));
+    ShotArea shot { m_form.Window(), {} };
+    GetWindowRect(m_form.Window(), &shot.rect);
+    EnumThreadWindows(GetCurrentThreadId(), &AddMenuRect, reinterpret_cast<LPARAM>(&shot));
+    RECT area = shot.rect;
     RECT screen { 0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN) };
     IntersectRect(&area, &area, &screen);
     const std::vector<uint32_t> pixels = ReadPixels(nullptr, area);
