@@ -1,5 +1,6 @@
 #include "core/format/date_picture.h"
 #include "core/format/en_us_locale.h"
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -19,10 +20,10 @@ size_t RunLength(const PictureSection& section, size_t i)
 
 String Number(int value, int width)
 {
-    std::string text = std::to_string(value);
-    if (int(text.size()) < width)
-        text.insert(0, size_t(width) - text.size(), '0');
-    return String(text.begin(), text.end());
+    const std::string digits = std::to_string(value);
+    String text(size_t(std::max(width - int(digits.size()), 0)), u'0');
+    text.append(digits.begin(), digits.end());
+    return text;
 }
 
 int DayOfYear(OleDate date)
