@@ -70,16 +70,12 @@ TEST(FormDesigner, EditsThroughThePagesSavesAndReloads)
         if (!frame)
             return false;
         std::vector<HWND> edits;
-        EnumChildWindows(
-            frame,
-            [](HWND child, LPARAM list) {
-                wchar_t name[16] = {};
-                GetClassNameW(child, name, 16);
-                if (std::wstring_view(name) == L"Edit")
-                    reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-                return TRUE;
-            },
-            LPARAM(&edits));
+        for (HWND child : test::ChildWindows(frame)) {
+            wchar_t name[16] = {};
+            GetClassNameW(child, name, 16);
+            if (std::wstring_view(name) == L"Edit")
+                edits.push_back(child);
+        }
         for (HWND candidate : edits) {
             wchar_t text[32] = {};
             GetWindowTextW(candidate, text, 32);

@@ -155,4 +155,28 @@ TestWindow::~TestWindow()
     DestroyWindow(m_window);
 }
 
+namespace {
+
+BOOL CALLBACK CollectWindow(HWND window, LPARAM list)
+{
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+} // namespace
+
+std::vector<HWND> ChildWindows(HWND parent)
+{
+    std::vector<HWND> windows;
+    EnumChildWindows(parent, &CollectWindow, LPARAM(&windows));
+    return windows;
+}
+
+std::vector<HWND> ThreadWindows()
+{
+    std::vector<HWND> windows;
+    EnumThreadWindows(GetCurrentThreadId(), &CollectWindow, LPARAM(&windows));
+    return windows;
+}
+
 } // namespace tolva::win32::test

@@ -14,6 +14,11 @@ int GdiObjectCount();
 bool PumpUntil(const std::function<bool()>& done, DWORD timeoutMs = 2000);
 void PumpFor(DWORD milliseconds);
 
+// The windows EnumChildWindows and EnumThreadWindows visit, in their order. (Their callbacks are
+// stdcall on 32-bit Windows, which a lambda does not convert to.)
+std::vector<HWND> ChildWindows(HWND parent);
+std::vector<HWND> ThreadWindows();
+
 // Runs action from inside whatever modal loop the thread is in once it has been polling for
 // delayMs, then keeps polling until the action returns true (or ten seconds pass).
 class ModalDriver {

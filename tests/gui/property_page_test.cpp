@@ -54,20 +54,11 @@ std::wstring TextOf(HWND window)
 // The descendants of a window of one class, in creation order.
 std::vector<HWND> Descendants(HWND parent, const wchar_t* windowClass)
 {
-    struct Search {
-        const wchar_t* windowClass;
-        std::vector<HWND> found;
-    } search { windowClass, {} };
-    EnumChildWindows(
-        parent,
-        [](HWND child, LPARAM data) {
-            auto& s = *reinterpret_cast<Search*>(data);
-            if (ClassOf(child) == s.windowClass)
-                s.found.push_back(child);
-            return TRUE;
-        },
-        LPARAM(&search));
-    return search.found;
+    std::vector<HWND> found;
+    for (HWND child : test::ChildWindows(parent))
+        if (ClassOf(child) == windowClass)
+            found.push_back(child);
+    return found;
 }
 
 HWND ButtonCalled(HWND parent, const wchar_t* caption)
@@ -157,14 +148,9 @@ TEST_F(PropertyPages, TheSystemFrameShowsThePagesOfTheFirstControl)
     LRESULT enabledCheck = BST_UNCHECKED;
     test::ModalDriver driver([&] {
         HWND sheet = nullptr;
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND window, LPARAM found) {
-                if (ClassOf(window) == L"#32770" && IsWindowVisible(window))
-                    *reinterpret_cast<HWND*>(found) = window;
-                return TRUE;
-            },
-            LPARAM(&sheet));
+        for (HWND window : test::ThreadWindows())
+            if (ClassOf(window) == L"#32770" && IsWindowVisible(window))
+                sheet = window;
         if (!sheet)
             return false;
         HWND enabled = ButtonCalled(sheet, L"Enabled");
