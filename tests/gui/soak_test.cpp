@@ -22,17 +22,10 @@ size_t Setting(const char* name, size_t otherwise)
 
 int WindowCount()
 {
-    int count = 0;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM counted) {
-            *reinterpret_cast<int*>(counted) += 1;
-            EnumChildWindows(
-                window, [](HWND, LPARAM c) { return ++*reinterpret_cast<int*>(c), TRUE; }, counted);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
+    size_t count = 0;
+    for (HWND window : ThreadWindows())
+        count += 1 + ChildWindows(window).size();
+    return int(count);
 }
 
 // Kernel handles open in the process: GetProcessHandleCount where the system answers it; Wine
