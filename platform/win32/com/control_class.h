@@ -2,6 +2,7 @@
 #include "platform/win32/com/control_behaviour.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/hosted_control.h"
+#include "platform/win32/toolbox/toolbox_bitmap.h"
 #include <span>
 #include <string>
 
@@ -23,6 +24,8 @@ struct ControlClass {
     std::wstring VersionedProgId() const { return ProgId() + L".1"; }
     // The name of the first instance a designer would place, used where no extender names it.
     std::wstring DefaultInstanceName() const { return std::wstring(name) + L"1"; }
+    // The resource id of its toolbox bitmap, found by its name; 0 when none is drawn for it.
+    int ToolboxBitmap() const { return ToolboxBitmapOf(name); }
 };
 
 // Every creatable control of the library.

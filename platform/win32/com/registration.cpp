@@ -72,6 +72,8 @@ void RegisterControlClass(HKEY root, const ControlClass& c, const std::wstring& 
     SetKey(root, clsidKey + L"\\MiscStatus\\1", std::to_wstring(c.behaviour.miscStatus));
     SetKey(root, clsidKey + L"\\TypeLib", libraryId);
     SetKey(root, clsidKey + L"\\Version", TypeLibraryVersion);
+    if (const int bitmap = c.ToolboxBitmap())
+        SetKey(root, clsidKey + L"\\ToolboxBitmap32", path + L", " + std::to_wstring(bitmap));
 
     for (const std::wstring& progId : { c.ProgId(), c.VersionedProgId() }) {
         SetKey(root, progId, c.name);

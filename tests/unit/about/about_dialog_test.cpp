@@ -25,19 +25,38 @@ TEST(AboutDialog, NamesTheLibraryAndItsVersion)
     EXPECT_FALSE(about.CloseCaption().empty());
 }
 
-TEST(AboutDialog, EverythingFitsTheClientAreaWithoutOverlapping)
+std::vector<String> ControlNames(size_t count)
 {
-    AboutDialog about;
-    const auto lines = about.Lines();
+    std::vector<String> names;
+    for (size_t i = 0; i < count; ++i)
+        names.push_back(u"Control" + String(1, char16_t(u'A' + i)));
+    return names;
+}
+
+// Without images, with the library's six, and with more than one row holds.
+class AboutDialogLayout : public testing::TestWithParam<size_t> { };
+
+TEST_P(AboutDialogLayout, EverythingFitsTheClientAreaWithoutOverlapping)
+{
+    AboutDialog about(ControlNames(GetParam()));
+    std::vector<AboutDialog::Box> boxes { about.CloseButton() };
+    for (const auto& line : about.Lines())
+        boxes.push_back(line.box);
+    const auto images = about.Images();
+    ASSERT_EQ(images.size(), GetParam());
+    for (size_t i = 0; i < images.size(); ++i) {
+        EXPECT_EQ(images[i].control, ControlNames(GetParam())[i]);
+        boxes.push_back(images[i].box);
+    }
     const AboutDialog::Box client = about.Client();
-    EXPECT_TRUE(Inside(about.CloseButton(), client));
-    for (size_t i = 0; i < lines.size(); ++i) {
-        EXPECT_TRUE(Inside(lines[i].box, client)) << i;
-        EXPECT_FALSE(Overlap(lines[i].box, about.CloseButton())) << i;
-        for (size_t j = i + 1; j < lines.size(); ++j)
-            EXPECT_FALSE(Overlap(lines[i].box, lines[j].box)) << i << " " << j;
+    for (size_t i = 0; i < boxes.size(); ++i) {
+        EXPECT_TRUE(Inside(boxes[i], client)) << i;
+        for (size_t j = i + 1; j < boxes.size(); ++j)
+            EXPECT_FALSE(Overlap(boxes[i], boxes[j])) << i << " " << j;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Images, AboutDialogLayout, testing::Values(0u, 6u, 14u));
 
 } // namespace
 } // namespace tolva

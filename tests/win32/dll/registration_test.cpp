@@ -1,10 +1,14 @@
 // Self-registration of TolvaKit.dll, machine-wide (regsvr32) and per user (DllInstall "user").
 // The run registered the DLL before the tests; every test leaves it registered.
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/com/control_class.h"
+#include "platform/win32/gdi/gdi_object.h"
 #include "tests/win32/dll/tolva_kit_dll.h"
 #include <gtest/gtest.h>
 #include <ole2.h>
 #include <oleauto.h>
+#include <set>
+#include <vector>
 
 namespace tolva::win32::test {
 namespace {
@@ -20,6 +24,28 @@ const wchar_t* const Platform = L"win32";
 bool SamePath(const std::wstring& a, const std::wstring& b)
 {
     return _wcsicmp(a.c_str(), b.c_str()) == 0;
+}
+
+// The pixels of a bitmap resource of the module, as 32-bit colours, top row first; empty when it
+// is not a 16 x 15 bitmap.
+std::vector<DWORD> ToolboxPixels(HMODULE module, int resource)
+{
+    GdiObject<HBITMAP> bitmap(
+        static_cast<HBITMAP>(LoadImageW(module, MAKEINTRESOURCEW(resource), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    BITMAP size {};
+    if (!bitmap || !GetObjectW(bitmap.Get(), sizeof size, &size) || size.bmWidth != 16 || size.bmHeight != 15)
+        return {};
+    BITMAPINFO format {};
+    format.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    format.bmiHeader.biWidth = 16;
+    format.bmiHeader.biHeight = -15; // top row first
+    format.bmiHeader.biPlanes = 1;
+    format.bmiHeader.biBitCount = 32;
+    std::vector<DWORD> pixels(16 * 15);
+    HDC screen = GetDC(nullptr);
+    GetDIBits(screen, bitmap.Get(), 0, 15, pixels.data(), &format, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    return pixels;
 }
 
 class Registration : public testing::Test {
@@ -80,6 +106,25 @@ TEST_F(Registration, EveryClassRegistersTheMiscStatusItsObjectsAnswer)
         ++classes;
     }
     EXPECT_GE(classes, 3);
+}
+
+// Designers read ToolboxBitmap32 ("<dll>, <resource id>") and load the bitmap from the DLL.
+TEST_F(Registration, EveryControlHasAToolboxBitmapOfItsOwn)
+{
+    ASSERT_EQ(dll.RegisterServer(), S_OK);
+    const HMODULE module = GetModuleHandleW(TolvaKitDll::Path().c_str());
+    ASSERT_NE(module, nullptr);
+    std::set<std::vector<DWORD>> pictures;
+    for (const ControlClass* c : ControlClasses()) {
+        const std::wstring value
+            = RegistryText(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(*c->clsid) + L"\\ToolboxBitmap32");
+        const size_t comma = value.rfind(L", ");
+        ASSERT_NE(comma, std::wstring::npos) << c->name << ": " << value;
+        EXPECT_TRUE(SamePath(value.substr(0, comma), TolvaKitDll::Path())) << value;
+        const std::vector<DWORD> pixels = ToolboxPixels(module, std::stoi(value.substr(comma + 2)));
+        ASSERT_FALSE(pixels.empty()) << c->name << ": no 16 x 15 bitmap " << value;
+        EXPECT_TRUE(pictures.insert(pixels).second) << c->name << " shows another control's picture";
+    }
 }
 
 TEST_F(Registration, TheTypeLibraryLoadsFromTheRegistry)

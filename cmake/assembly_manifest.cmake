@@ -1,0 +1,48 @@
+# Writes the side-by-side assembly manifest of TolvaKit.dll from its type library source: every
+# coclass of TolvaKit.idl becomes a COM class of the assembly with its ProgIDs, every
+# dispinterface is marshalled by the standard dispatch marshaller, and the type library is
+# declared, so that a client whose application manifest depends on the assembly "TolvaKit"
+# creates the controls without any registration.
+#
+#   cmake -DIDL=<TolvaKit.idl> -DOUTPUT=<TolvaKit.manifest> -DARCHITECTURE=<amd64|x86>
+#         -DVERSION=<a.b.c.d> -P assembly_manifest.cmake
+
+include(${CMAKE_CURRENT_LIST_DIR}/idl_declarations.cmake)
+
+idl_declarations(${IDL} library libraries)
+idl_declarations(${IDL} coclass classes)
+idl_declarations(${IDL} dispinterface interfaces)
+list(LENGTH libraries library_count)
+if(NOT library_count EQUAL 1 OR NOT classes)
+    message(FATAL_ERROR "${IDL}: expected one library and its coclasses")
+endif()
+string(REGEX REPLACE ".*=" "" library_id "${libraries}")
+
+# The same status bits the DLL registers under MiscStatus (platform/win32/com/registration.cpp).
+set(misc_status "recomposeonresize,cantlinkinside,insideout,activatewhenvisible,setclientsitefirst")
+set(dispatch_marshaller "{00020420-0000-0000-C000-000000000046}")
+
+set(xml "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n")
+string(APPEND xml "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n")
+string(APPEND xml "    <assemblyIdentity type=\"win32\" name=\"TolvaKit\" version=\"${VERSION}\""
+                  " processorArchitecture=\"${ARCHITECTURE}\"/>\n")
+string(APPEND xml "    <file name=\"TolvaKit.dll\">\n")
+string(APPEND xml "        <typelib tlbid=\"${library_id}\" version=\"1.0\" helpdir=\"\"/>\n")
+foreach(class ${classes})
+    string(REGEX REPLACE "=.*" "" name "${class}")
+    string(REGEX REPLACE ".*=" "" clsid "${class}")
+    string(APPEND xml "        <comClass clsid=\"${clsid}\" progid=\"TolvaKit.${name}\" threadingModel=\"Apartment\""
+                      " tlbid=\"${library_id}\" description=\"${name}\" miscStatus=\"\""
+                      " miscStatusContent=\"${misc_status}\">\n")
+    string(APPEND xml "            <progid>TolvaKit.${name}.1</progid>\n")
+    string(APPEND xml "        </comClass>\n")
+endforeach()
+string(APPEND xml "    </file>\n")
+foreach(interface ${interfaces})
+    string(REGEX REPLACE "=.*" "" name "${interface}")
+    string(REGEX REPLACE ".*=" "" iid "${interface}")
+    string(APPEND xml "    <comInterfaceExternalProxyStub name=\"${name}\" iid=\"${iid}\""
+                      " proxyStubClsid32=\"${dispatch_marshaller}\" tlbid=\"${library_id}\"/>\n")
+endforeach()
+string(APPEND xml "</assembly>\n")
+file(CONFIGURE OUTPUT ${OUTPUT} CONTENT "${xml}" @ONLY)

@@ -1,0 +1,25 @@
+# Runs tolva_reference under Wine. With GENERATED it writes the document there and fails when it
+# differs from the checked-in DOCUMENT; without, it rewrites DOCUMENT.
+#
+#   cmake -DWINE=<emulator command, ;-separated> -DTOOL=<tolva_reference.exe> -DDLL=<TolvaKit.dll>
+#         -DDOCUMENT=<docs/reference.md> [-DGENERATED=<file>] -P reference_document.cmake
+
+if(GENERATED)
+    set(output ${GENERATED})
+else()
+    set(output ${DOCUMENT})
+endif()
+foreach(path DLL output)
+    string(REPLACE "/" "\\" windows_${path} "Z:${${path}}")
+endforeach()
+execute_process(COMMAND ${WINE} ${TOOL} ${windows_DLL} ${windows_output} RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+    message(FATAL_ERROR "tolva_reference failed (${status})")
+endif()
+if(GENERATED)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${DOCUMENT} ${GENERATED} RESULT_VARIABLE different)
+    if(different)
+        message(FATAL_ERROR "docs/reference.md is not what the type library and the controls say now "
+                            "(the build wrote ${GENERATED}). Regenerate it with:\n    scripts/update-reference.sh")
+    endif()
+endif()
