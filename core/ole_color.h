@@ -27,7 +27,11 @@ constexpr OleColor WindowText = 0x80000008;
 constexpr OleColor Highlight = 0x8000000D;
 constexpr OleColor HighlightText = 0x8000000E;
 constexpr OleColor ButtonFace = 0x8000000F;
+constexpr OleColor ButtonShadow = 0x80000010;
 constexpr OleColor ButtonText = 0x80000012;
+constexpr OleColor ButtonHighlight = 0x80000014;
+constexpr OleColor DarkShadow3D = 0x80000015;
+constexpr OleColor Light3D = 0x80000016;
 }
 
 } // namespace tolva

@@ -3,6 +3,7 @@
 #include "host/form/extender_keys.h"
 #include "host/form/form_property_bag.h"
 #include "host/form/form_syntax_error.h"
+#include "host/form/form_values.h"
 #include "host/win32/host_form.h"
 #include "host/win32/ole_property_bag.h"
 #include "platform/win32/com/bstr.h"
@@ -45,28 +46,6 @@ std::string FailureText(HRESULT hr)
         && description.Get() && *description.Get())
         return ToUtf8(win32::FromBstr(description.Get()));
     return "error " + Hex(hr);
-}
-
-float Position(const FormProperty& property, bool size)
-{
-    float value = 0;
-    try {
-        value = property.value.ToFloat();
-    } catch (const AutomationError&) {
-        throw FormSyntaxError(property.line, ToUtf8(property.key) + " must be a number");
-    }
-    if (!std::isfinite(value) || std::fabs(value) > MaxTwips || (size && value < 0))
-        throw FormSyntaxError(property.line, ToUtf8(property.key) + " is out of range");
-    return value;
-}
-
-bool Flag(const FormProperty& property)
-{
-    try {
-        return property.value.ToBool();
-    } catch (const AutomationError&) {
-        throw FormSyntaxError(property.line, ToUtf8(property.key) + " must be True or False");
-    }
 }
 
 } // namespace
@@ -116,36 +95,23 @@ FormControl::~FormControl()
 
 void FormControl::ReadExtender(const FormObject& definition)
 {
-    for (const FormProperty& property : definition.properties) {
-        if (!IsExtenderKey(property.key))
-            continue;
-        m_extenderProperties.push_back(property);
-        const StringView key = property.key;
-        if (SameIdentifier(key, u"Left"))
-            m_left = Position(property, false);
-        else if (SameIdentifier(key, u"Top"))
-            m_top = Position(property, false);
-        else if (SameIdentifier(key, u"Width"))
-            m_width = Position(property, true);
-        else if (SameIdentifier(key, u"Height"))
-            m_height = Position(property, true);
-        else if (SameIdentifier(key, u"Visible"))
-            m_visible = Flag(property);
-        else if (SameIdentifier(key, u"Default"))
-            m_default = Flag(property);
-        else if (SameIdentifier(key, u"TabIndex"))
-            m_tabIndex = int(Position(property, true));
-        else if (SameIdentifier(key, u"Tag"))
-            m_tag = property.value.ToString();
-    }
+    for (const FormProperty& property : definition.properties)
+        if (IsExtenderKey(property.key))
+            m_extenderProperties.push_back(property);
+    const ExtenderValues values = ReadExtenderValues(definition);
+    m_left = values.left;
+    m_top = values.top;
+    m_width = values.width;
+    m_height = values.height;
+    m_visible = values.visible;
+    m_default = values.isDefault;
+    m_tabIndex = values.tabIndex;
+    m_tag = values.tag;
 }
 
 void FormControl::LoadProperties(const FormObject& definition)
 {
-    FormObject values(definition.type, definition.name, definition.line);
-    for (const FormProperty& property : definition.properties)
-        if (!IsExtenderKey(property.key) && !IsDesignerKey(property.key))
-            values.properties.push_back(property);
+    FormObject values = ControlProperties(definition);
     if (auto persist = m_object.As<IPersistPropertyBag>(IID_IPersistPropertyBag)) {
         FormPropertyBag bag(values);
         auto oleBag = win32::ComPtr<OlePropertyBag>::Adopt(new OlePropertyBag(bag));

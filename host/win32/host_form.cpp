@@ -1,6 +1,6 @@
 #include "host/win32/host_form.h"
-#include "core/automation_error.h"
 #include "host/form/form_syntax_error.h"
+#include "host/form/form_values.h"
 #include "host/win32/event_text.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_error.h"
@@ -15,25 +15,11 @@ namespace tolva::host {
 namespace {
 
 constexpr float TwipsPerPixel = 15;
-constexpr float MaxClientTwips = 15 * 4096;
 constexpr UINT FirstMenuId = 100;
 
 LONG ToPixels(double twips)
 {
     return LONG(std::lround(twips / TwipsPerPixel));
-}
-
-float Size(const FormProperty& property)
-{
-    float value = 0;
-    try {
-        value = property.value.ToFloat();
-    } catch (const AutomationError&) {
-        throw FormSyntaxError(property.line, ToUtf8(property.key) + " must be a number");
-    }
-    if (!std::isfinite(value) || value < 0 || value > MaxClientTwips)
-        throw FormSyntaxError(property.line, ToUtf8(property.key) + " is out of range");
-    return value;
 }
 
 COLORREF ToRgb(OleColor color)
@@ -106,28 +92,13 @@ HostForm::~HostForm()
 
 void HostForm::ReadFormProperties(const FormObject& definition)
 {
-    for (const FormProperty& property : definition.properties) {
-        const StringView key = property.key;
-        if (SameIdentifier(key, u"Caption")) {
-            if (!property.value.Holds<String>())
-                throw FormSyntaxError(property.line, "Caption must be a text");
-            m_caption = property.value.ToString();
-        } else if (SameIdentifier(key, u"ClientWidth")) {
-            m_clientWidth = Size(property);
-        } else if (SameIdentifier(key, u"ClientHeight")) {
-            m_clientHeight = Size(property);
-        } else if (SameIdentifier(key, u"Font")) {
-            if (!property.value.Holds<Font>())
-                throw FormSyntaxError(property.line, "Font must be a BeginProperty Font group");
-            m_font = property.value.ToFont();
-        } else if (SameIdentifier(key, u"BackColor") || SameIdentifier(key, u"ForeColor")) {
-            try {
-                (SameIdentifier(key, u"BackColor") ? m_backColor : m_foreColor) = property.value.ToColor();
-            } catch (const AutomationError&) {
-                throw FormSyntaxError(property.line, ToUtf8(key) + " must be a colour");
-            }
-        }
-    }
+    const FormValues values = ReadFormValues(definition);
+    m_caption = values.caption;
+    m_clientWidth = values.clientWidth;
+    m_clientHeight = values.clientHeight;
+    m_font = values.font;
+    m_backColor = values.backColor;
+    m_foreColor = values.foreColor;
 }
 
 void HostForm::CreateFormWindow(const FormObject& definition)

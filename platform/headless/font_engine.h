@@ -50,6 +50,17 @@ public:
     // The engine every raster canvas of the process shares.
     static FontEngine& Shared();
 
+    // How canvases treat text while a scene is drawn to find where its text is: hidden text draws
+    // nothing while every measure stays the same; widening adds that many pixels to the measure of
+    // each character, which moves whatever the text's size places (a centred caption, a glyph
+    // after it).
+    struct TextProbe {
+        bool hidden = false;
+        int32_t widening = 0;
+    };
+    void SetTextProbe(TextProbe probe) { m_probe = probe; }
+    const TextProbe& Probe() const { return m_probe; }
+
     // Makes the font current; false when no font file could be opened.
     bool Select(const CanvasFont& font);
     const Metrics& Current() const { return m_metrics; }
@@ -95,6 +106,7 @@ private:
     FT_FaceRec_* m_face = nullptr; // of the current font; null when none could be made current
     FT_SizeRec_* m_size = nullptr;
     Metrics m_metrics;
+    TextProbe m_probe;
 };
 
 } // namespace tolva::headless

@@ -116,7 +116,7 @@ void RasterCanvas::Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef
 
 void RasterCanvas::DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color)
 {
-    if (text.empty() || !m_fonts->Select(font))
+    if (text.empty() || m_fonts->Probe().hidden || !m_fonts->Select(font))
         return;
     const FontEngine::Metrics metrics = m_fonts->Current();
     const int64_t left = int64_t(x) + Origin().x;
@@ -157,7 +157,7 @@ TextExtent RasterCanvas::MeasureText(StringView text, const CanvasFont& font)
     TextExtent extent;
     extent.height = m_fonts->Current().ascent + m_fonts->Current().descent;
     for (char32_t character : CodePoints(text))
-        extent.width += m_fonts->Advance(character);
+        extent.width += m_fonts->Advance(character) + m_fonts->Probe().widening;
     return extent;
 }
 
@@ -165,37 +165,37 @@ ColorRef RasterCanvas::SystemColor(int index) const
 {
     constexpr auto rgb = [](uint32_t r, uint32_t g, uint32_t b) { return ColorRef(r | (g << 8) | (b << 16)); };
     static constexpr std::array<ColorRef, 31> colors {
-        rgb(212, 208, 200), // scroll bar
-        rgb(58, 110, 165), // desktop
-        rgb(10, 36, 106), // active caption
+        rgb(255, 255, 255), // scroll bar
+        rgb(37, 111, 149), // desktop
+        rgb(50, 150, 250), // active caption
         rgb(128, 128, 128), // inactive caption
-        rgb(212, 208, 200), // menu
+        rgb(255, 255, 255), // menu
         rgb(255, 255, 255), // window
-        rgb(0, 0, 0), // window frame
+        rgb(158, 158, 158), // window frame
         rgb(0, 0, 0), // menu text
         rgb(0, 0, 0), // window text
-        rgb(255, 255, 255), // caption text
-        rgb(212, 208, 200), // active border
-        rgb(212, 208, 200), // inactive border
+        rgb(0, 0, 0), // caption text
+        rgb(255, 255, 255), // active border
+        rgb(255, 255, 255), // inactive border
         rgb(128, 128, 128), // application workspace
-        rgb(10, 36, 106), // highlight
+        rgb(48, 150, 250), // highlight
         rgb(255, 255, 255), // highlight text
-        rgb(212, 208, 200), // button face
-        rgb(128, 128, 128), // button shadow
-        rgb(128, 128, 128), // grey text
+        rgb(245, 245, 245), // button face
+        rgb(166, 166, 166), // button shadow
+        rgb(166, 166, 166), // grey text
         rgb(0, 0, 0), // button text
-        rgb(212, 208, 200), // inactive caption text
+        rgb(200, 200, 200), // inactive caption text
         rgb(255, 255, 255), // button highlight
-        rgb(64, 64, 64), // 3D dark shadow
-        rgb(212, 208, 200), // 3D light
+        rgb(106, 106, 106), // 3D dark shadow
+        rgb(227, 227, 227), // 3D light
         rgb(0, 0, 0), // tooltip text
-        rgb(255, 255, 225), // tooltip background
-        rgb(181, 181, 181), // alternate button face
-        rgb(0, 0, 200), // hot-tracked item
-        rgb(166, 202, 240), // active caption gradient
-        rgb(192, 192, 192), // inactive caption gradient
-        rgb(10, 36, 106), // menu highlight
-        rgb(212, 208, 200), // menu bar
+        rgb(255, 255, 255), // tooltip background
+        rgb(255, 255, 255), // alternate button face
+        rgb(224, 224, 224), // hot-tracked item
+        rgb(50, 150, 250), // active caption gradient
+        rgb(128, 128, 128), // inactive caption gradient
+        rgb(48, 150, 250), // menu highlight
+        rgb(255, 255, 255), // menu bar
     };
     return index >= 0 && size_t(index) < colors.size() ? colors[size_t(index)] : 0;
 }

@@ -24,7 +24,8 @@ public:
     void Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef color) override;
     void DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color) override;
     TextExtent MeasureText(StringView text, const CanvasFont& font) override;
-    // The classic colour scheme Wine uses by default; 0 for an unknown index.
+    // The colours of a new Wine prefix (Wine 8's default scheme, as GetSysColor answers there), so
+    // that pictures agree with the DLL's under Wine; 0 for an unknown index.
     ColorRef SystemColor(int index) const override;
 
     // Throws std::out_of_range outside the image.

@@ -11,10 +11,12 @@ int32_t Pixels(float twips)
 }
 
 // The sunken client edge of a 3D border: two pixels on each side, shadowed above and to the
-// left, lit below and to the right.
+// left, lit below and to the right, in the system's 3D colours.
 void DrawSunkenEdge(RasterCanvas& image, int32_t left, int32_t top, int32_t right, int32_t bottom)
 {
-    constexpr ColorRef shadow = 0x808080, darkShadow = 0x404040, light = 0xC8D0D4, highlight = 0xFFFFFF;
+    const auto colour = [&image](OleColor system) { return image.SystemColor(SystemColorIndex(system)); };
+    const ColorRef shadow = colour(SystemColor::ButtonShadow), darkShadow = colour(SystemColor::DarkShadow3D),
+                   light = colour(SystemColor::Light3D), highlight = colour(SystemColor::ButtonHighlight);
     image.FillRect(left, top, right, bottom, highlight);
     image.FillRect(left, top, right - 1, bottom - 1, shadow);
     image.FillRect(left + 1, top + 1, right - 1, bottom - 1, light);

@@ -1,6 +1,7 @@
 // TolvaHost.exe as a user runs it: the demo form with its code, a scripted tour, pictures and a
 // save; a form file it refuses, with the line and reason on standard error.
 #include "host/win32/text_file.h"
+#include "tests/gui/host_program.h"
 #include "tests/gui/png_reader.h"
 #include <gtest/gtest.h>
 #include <string>
@@ -10,94 +11,9 @@
 namespace tolva::win32 {
 namespace {
 
-struct Outcome {
-    DWORD exitCode = 0;
-    std::string errors;
-};
-
-std::wstring Folder(const std::wstring& path)
-{
-    return path.substr(0, path.find_last_of(L"\\/"));
-}
-
-std::wstring ProgramFolder()
-{
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return Folder(path);
-}
-
-// The source tree's examples, as Wine sees the Unix path on drive Z:.
-std::wstring Examples()
-{
-    const std::string unix = TOLVA_EXAMPLES_DIR;
-    return L"Z:" + std::wstring(unix.begin(), unix.end());
-}
-
-// A folder of the test's own, removed with what it holds at the end.
-class ScratchFolder {
-public:
-    ScratchFolder()
-    {
-        wchar_t base[MAX_PATH] = {};
-        GetTempPathW(MAX_PATH, base);
-        m_path = std::wstring(base) + L"tolva-host-" + std::to_wstring(GetCurrentProcessId());
-        CreateDirectoryW(m_path.c_str(), nullptr);
-    }
-    ~ScratchFolder()
-    {
-        WIN32_FIND_DATAW found;
-        HANDLE search = FindFirstFileW((m_path + L"\\*").c_str(), &found);
-        if (search != INVALID_HANDLE_VALUE) {
-            do
-                DeleteFileW((m_path + L"\\" + found.cFileName).c_str());
-            while (FindNextFileW(search, &found));
-            FindClose(search);
-        }
-        RemoveDirectoryW(m_path.c_str());
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    const std::wstring& Path() const { return m_path; }
-
-private:
-    std::wstring m_path;
-};
-
-std::string Read(const std::wstring& path)
-{
-    return host::ReadTextFile(String(path.begin(), path.end()), 1 << 24).value_or("");
-}
-
-// Runs TolvaHost with the arguments and waits for it; its standard error is kept.
-Outcome RunHost(const std::wstring& arguments, const std::wstring& scratch)
-{
-    const std::wstring errorsPath = scratch + L"\\stderr.txt";
-    SECURITY_ATTRIBUTES inherit { sizeof inherit, nullptr, TRUE };
-    HANDLE errors = CreateFileW(
-        errorsPath.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherit, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    std::wstring command = L"\"" + ProgramFolder() + L"\\TolvaHost.exe\" " + arguments;
-    STARTUPINFOW startup {};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdError = errors;
-    startup.hStdOutput = errors;
-    PROCESS_INFORMATION process {};
-    Outcome outcome;
-    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process)) {
-        if (WaitForSingleObject(process.hProcess, 60000) != WAIT_OBJECT_0)
-            TerminateProcess(process.hProcess, 99);
-        GetExitCodeProcess(process.hProcess, &outcome.exitCode);
-        CloseHandle(process.hThread);
-        CloseHandle(process.hProcess);
-    } else {
-        outcome.exitCode = 98;
-    }
-    CloseHandle(errors);
-    outcome.errors = Read(errorsPath);
-    return outcome;
-}
+using test::Examples;
+using test::RunHost;
+using test::ScratchFolder;
 
 bool Contains(const std::string& text, const std::string& part)
 {
@@ -109,11 +25,11 @@ TEST(TolvaHostProgram, PlaysTheDemoWithItsCodeAndSavesIt)
     const ScratchFolder folder;
     const std::wstring& scratch = folder.Path();
     const std::wstring log = scratch + L"\\events.txt", saved = scratch + L"\\saved.frm";
-    const Outcome outcome = RunHost(L"\"" + Examples() + L"\\demo.frm\" /play \"" + Examples()
+    const test::HostOutcome outcome = RunHost(L"\"" + Examples() + L"\\demo.frm\" /play \"" + Examples()
             + L"\\demo.play\" /shots \"" + scratch + L"\" /log \"" + log + L"\" /save \"" + saved + L"\"",
         scratch);
     ASSERT_EQ(outcome.exitCode, 0u) << outcome.errors;
-    const std::string events = Read(log);
+    const std::string events = test::ReadFile(log);
     // In the order the tour makes them, the code's echoes among them.
     const std::vector<std::string> expected { "cmdOK_MouseDown 1, 0, ", "cmdOK_Click", "OK pressed 1 time(s)",
         "cmdFile_Click", "frmDemo.PopupMenu mnuFile, 2640, 690", "mnuFileSave_Click", "Save chosen from the &File menu",
@@ -128,7 +44,7 @@ TEST(TolvaHostProgram, PlaysTheDemoWithItsCodeAndSavesIt)
         ASSERT_TRUE(picture);
         EXPECT_GT(picture->width, 300);
     }
-    EXPECT_TRUE(Contains(Read(saved), "Caption         =   \"Saved && &Close\"")) << Read(saved);
+    EXPECT_TRUE(Contains(test::ReadFile(saved), "Caption         =   \"Saved && &Close\"")) << test::ReadFile(saved);
 }
 
 TEST(TolvaHostProgram, RefusesAMalformedFormWithItsLineAndReason)
@@ -138,11 +54,11 @@ TEST(TolvaHostProgram, RefusesAMalformedFormWithItsLineAndReason)
     const std::wstring form = scratch + L"\\broken.frm";
     ASSERT_TRUE(host::WriteTextFile(String(form.begin(), form.end()),
         "VERSION 5.00\nBegin VB.Form f\n   Begin TolvaKit.TolvaCommand c\n      Caption = \"OK\n"));
-    const Outcome outcome = RunHost(L"\"" + form + L"\"", scratch);
+    const test::HostOutcome outcome = RunHost(L"\"" + form + L"\"", scratch);
     EXPECT_EQ(outcome.exitCode, 2u);
     EXPECT_TRUE(Contains(outcome.errors, "line 4: Caption: the string has no closing quote")) << outcome.errors;
 
-    const Outcome unknown = RunHost(L"\"" + form + L"\" /frobnicate", scratch);
+    const test::HostOutcome unknown = RunHost(L"\"" + form + L"\" /frobnicate", scratch);
     EXPECT_EQ(unknown.exitCode, 2u);
     EXPECT_TRUE(Contains(unknown.errors, "usage: TolvaHost")) << unknown.errors;
 }

@@ -12,9 +12,14 @@ endif()
 foreach(path DLL output)
     string(REPLACE "/" "\\" windows_${path} "Z:${${path}}")
 endforeach()
-execute_process(COMMAND ${WINE} ${TOOL} ${windows_DLL} ${windows_output} RESULT_VARIABLE status)
+# Wine's output goes to a file: a pipe would stay open as long as the prefix's background
+# processes that a program started.
+get_filename_component(folder ${output} DIRECTORY)
+execute_process(COMMAND ${WINE} ${TOOL} ${windows_DLL} ${windows_output} RESULT_VARIABLE status
+    OUTPUT_FILE ${folder}/tolva_reference.log ERROR_FILE ${folder}/tolva_reference.log)
 if(NOT status EQUAL 0)
-    message(FATAL_ERROR "tolva_reference failed (${status})")
+    file(READ ${folder}/tolva_reference.log log)
+    message(FATAL_ERROR "tolva_reference failed (${status}): ${log}")
 endif()
 if(GENERATED)
     execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${DOCUMENT} ${GENERATED} RESULT_VARIABLE different)

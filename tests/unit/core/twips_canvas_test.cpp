@@ -89,7 +89,7 @@ TEST_F(TwipsCanvasTest, SettingTheBackColourClearsToItTranslatingSystemColours)
 {
     canvas.FilledBox(0, 0, 300, 300, Red);
     canvas.SetBackColor(SystemColor::ButtonFace);
-    EXPECT_EQ(At(5, 5), Rgb(212, 208, 200));
+    EXPECT_EQ(At(5, 5), Rgb(245, 245, 245));
     EXPECT_EQ(canvas.BackColor(), SystemColor::ButtonFace);
 }
 

@@ -225,18 +225,18 @@ TEST_F(RasterTextTest, TextPartlyOutsideTheImageIsClipped)
     EXPECT_FALSE(LitPixels(canvas).empty());
 }
 
-TEST(RasterCanvasColours, SystemColoursAreTheClassicScheme)
+TEST(RasterCanvasColours, SystemColoursAreThoseOfANewWinePrefix)
 {
     const RasterCanvas canvas(1, 1);
-    EXPECT_EQ(canvas.SystemColor(15), Rgb(212, 208, 200)); // button face
+    EXPECT_EQ(canvas.SystemColor(15), Rgb(245, 245, 245)); // button face
     EXPECT_EQ(canvas.SystemColor(18), Rgb(0, 0, 0)); // button text
     EXPECT_EQ(canvas.SystemColor(5), Rgb(255, 255, 255)); // window
     EXPECT_EQ(canvas.SystemColor(8), Rgb(0, 0, 0)); // window text
-    EXPECT_EQ(canvas.SystemColor(13), Rgb(10, 36, 106)); // highlight
+    EXPECT_EQ(canvas.SystemColor(13), Rgb(48, 150, 250)); // highlight
     EXPECT_EQ(canvas.SystemColor(14), Rgb(255, 255, 255)); // highlight text
-    EXPECT_EQ(canvas.SystemColor(17), Rgb(128, 128, 128)); // grey text
+    EXPECT_EQ(canvas.SystemColor(17), Rgb(166, 166, 166)); // grey text
     EXPECT_EQ(canvas.SystemColor(99), 0u);
-    EXPECT_EQ(TranslateColor(canvas, 0x8000000F), Rgb(212, 208, 200));
+    EXPECT_EQ(TranslateColor(canvas, 0x8000000F), Rgb(245, 245, 245));
     EXPECT_EQ(TranslateColor(canvas, 0x01ABCDEF), 0xABCDEFu);
 }
 

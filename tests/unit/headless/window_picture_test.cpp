@@ -57,10 +57,11 @@ TEST_F(WindowPictureTest, A3DBorderIsTheSunkenEdgeOfTwoPixels)
 {
     root.SetBorderStyle(1);
     const RasterCanvas picture = WindowPicture(root);
-    EXPECT_EQ(picture.Pixel(0, 0), 0x808080u); // shadow above and to the left
-    EXPECT_EQ(picture.Pixel(1, 1), 0x404040u);
-    EXPECT_EQ(picture.Pixel(9, 7), 0xFFFFFFu); // lit below and to the right
-    EXPECT_EQ(picture.Pixel(8, 6), 0xC8D0D4u);
+    const auto colour = [&picture](OleColor system) { return picture.SystemColor(SystemColorIndex(system)); };
+    EXPECT_EQ(picture.Pixel(0, 0), colour(SystemColor::ButtonShadow)); // above and to the left
+    EXPECT_EQ(picture.Pixel(1, 1), colour(SystemColor::DarkShadow3D));
+    EXPECT_EQ(picture.Pixel(9, 7), colour(SystemColor::ButtonHighlight)); // below and to the right
+    EXPECT_EQ(picture.Pixel(8, 6), colour(SystemColor::Light3D));
     EXPECT_EQ(picture.Pixel(2, 2), Green);
     EXPECT_EQ(picture.Pixel(4, 3), Blue);
 }

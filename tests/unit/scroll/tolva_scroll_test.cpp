@@ -96,7 +96,7 @@ TEST_F(ScrollTest, TheSliderIsABoxFramedByOneBlackPixelAndFilledWithItsBackColou
     }
     // The arrows keep the sunken edge of a 3D border.
     EXPECT_EQ(Up().Appearance(), SurfaceAppearance::ThreeD);
-    EXPECT_EQ(picture.Pixel(0, 0), 0x808080u);
+    EXPECT_EQ(picture.Pixel(0, 0), picture.SystemColor(SystemColorIndex(SystemColor::ButtonShadow)));
 }
 
 // Value and Change.
