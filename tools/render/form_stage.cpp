@@ -11,26 +11,33 @@ FormStage::FormStage(const FormObject& form)
     const FormValues values = ReadFormValues(form);
     m_window.SetBackColor(values.backColor);
     m_window.Resize(values.clientWidth, values.clientHeight);
-    for (const FormObject& child : form.children) {
-        if (SameIdentifier(child.type, u"VB.Menu"))
-            continue;
-        Place(child, values);
-    }
+    // Read in the file's order, so that the first refused line is the one reported.
+    std::vector<const FormObject*> shown;
+    for (const FormObject& child : form.children)
+        if (!SameIdentifier(child.type, u"VB.Menu") && Validated(child).visible)
+            shown.push_back(&child);
+    // Windows puts a new child window below its siblings, so the file's first control is on top;
+    // the window tree draws later children over earlier ones, so the stage makes them from the last.
+    for (auto child = shown.rbegin(); child != shown.rend(); ++child)
+        Place(**child, values);
     FocusFirstInTabOrder();
 }
 
-void FormStage::Place(const FormObject& control, const FormValues& form)
+ExtenderValues FormStage::Validated(const FormObject& control)
 {
     if (control.type.rfind(u"VB.", 0) == 0)
         throw FormSyntaxError(
             control.line, ToUtf8(control.type) + " is not supported: the host holds ActiveX controls and menus");
+    if (!FindHeadlessControlClass(control.type))
+        throw FormSyntaxError(control.line, ToUtf8(control.type) + " is not a control of the library");
+    return ReadExtenderValues(control);
+}
+
+void FormStage::Place(const FormObject& control, const FormValues& form)
+{
     auto placed = std::make_unique<Placed>();
     placed->controlClass = FindHeadlessControlClass(control.type);
-    if (!placed->controlClass)
-        throw FormSyntaxError(control.line, ToUtf8(control.type) + " is not a control of the library");
     placed->extender = ReadExtenderValues(control);
-    if (!placed->extender.visible)
-        return;
     const ExtenderValues& extender = placed->extender;
     headless::TestSite& site = placed->site;
     site.ambientFont = form.font;
@@ -55,9 +62,9 @@ void FormStage::Place(const FormObject& control, const FormValues& form)
 void FormStage::FocusFirstInTabOrder()
 {
     std::vector<Placed*> order;
-    for (const auto& placed : m_controls)
-        if (placed->controlClass->takesFocus && placed->surface->Enabled())
-            order.push_back(placed.get());
+    for (auto placed = m_controls.rbegin(); placed != m_controls.rend(); ++placed) // the file's order
+        if ((*placed)->controlClass->takesFocus && (*placed)->surface->Enabled())
+            order.push_back(placed->get());
     std::stable_sort(order.begin(), order.end(),
         [](const Placed* a, const Placed* b) { return a->extender.tabIndex < b->extender.tabIndex; });
     if (!order.empty())

@@ -35,6 +35,7 @@ private:
         std::unique_ptr<HeadlessControl> control;
     };
 
+    static ExtenderValues Validated(const FormObject& control);
     void Place(const FormObject& control, const FormValues& form);
     void FocusFirstInTabOrder();
 

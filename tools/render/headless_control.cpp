@@ -1,7 +1,9 @@
 #include "tools/render/headless_control.h"
 #include "controls/command/tolva_command.h"
+#include "controls/input/tolva_input.h"
 #include "controls/label/tolva_label.h"
 #include "controls/scroll/tolva_scroll.h"
+#include "controls/tabs/tolva_tabs.h"
 #include "host/form/form_object.h"
 
 namespace tolva::render {
@@ -29,6 +31,8 @@ constexpr HeadlessControlClass Classes[] = {
     { u"TolvaKit.TolvaCommand", true, &Create<TolvaCommand> },
     { u"TolvaKit.TolvaLabel", false, &Create<TolvaLabel> },
     { u"TolvaKit.TolvaScroll", true, &Create<TolvaScroll> },
+    { u"TolvaKit.TolvaInput", true, &Create<TolvaInput> },
+    { u"TolvaKit.TolvaTabs", true, &Create<TolvaTabs> },
 };
 
 } // namespace
