@@ -18,8 +18,11 @@ if(NOT library_count EQUAL 1 OR NOT classes)
 endif()
 string(REGEX REPLACE ".*=" "" library_id "${libraries}")
 
-# The same status bits the DLL registers under MiscStatus (platform/win32/com/registration.cpp).
+# The status bits the DLL registers under MiscStatus: those of every control, and a class's own
+# (its ControlBehaviour; the DLL suite checks that the two agree).
 set(misc_status "recomposeonresize,cantlinkinside,insideout,activatewhenvisible,setclientsitefirst")
+set(misc_status_TolvaCommand "actslikebutton")
+set(misc_status_TolvaLabel "nouiactivate")
 set(dispatch_marshaller "{00020420-0000-0000-C000-000000000046}")
 
 set(xml "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n")
@@ -31,9 +34,13 @@ string(APPEND xml "        <typelib tlbid=\"${library_id}\" version=\"1.0\" help
 foreach(class ${classes})
     string(REGEX REPLACE "=.*" "" name "${class}")
     string(REGEX REPLACE ".*=" "" clsid "${class}")
+    set(status ${misc_status})
+    if(misc_status_${name})
+        string(APPEND status ",${misc_status_${name}}")
+    endif()
     string(APPEND xml "        <comClass clsid=\"${clsid}\" progid=\"TolvaKit.${name}\" threadingModel=\"Apartment\""
                       " tlbid=\"${library_id}\" description=\"${name}\" miscStatus=\"\""
-                      " miscStatusContent=\"${misc_status}\">\n")
+                      " miscStatusContent=\"${status}\">\n")
     string(APPEND xml "            <progid>TolvaKit.${name}.1</progid>\n")
     string(APPEND xml "        </comClass>\n")
 endforeach()

@@ -4,10 +4,13 @@
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/gdi/gdi_object.h"
 #include "tests/win32/dll/tolva_kit_dll.h"
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <ole2.h>
 #include <oleauto.h>
+#include <optional>
 #include <set>
+#include <sstream>
 #include <vector>
 
 namespace tolva::win32::test {
@@ -46,6 +49,36 @@ std::vector<DWORD> ToolboxPixels(HMODULE module, int resource)
     GetDIBits(screen, bitmap.Get(), 0, 15, pixels.data(), &format, DIB_RGB_COLORS);
     ReleaseDC(nullptr, screen);
     return pixels;
+}
+
+// The status bits a comClass element of the module's assembly manifest gives its class, or
+// nullopt when the manifest has no element for it or names a bit the list here lacks.
+std::optional<DWORD> ManifestStatus(HMODULE module, const std::wstring& progId)
+{
+    HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(24)); // RT_MANIFEST
+    HGLOBAL loaded = found ? LoadResource(module, found) : nullptr;
+    if (!loaded)
+        return std::nullopt;
+    const std::string manifest(static_cast<const char*>(LockResource(loaded)), SizeofResource(module, found));
+    const size_t progIdAt = manifest.find("progid=\"" + std::string(progId.begin(), progId.end()) + "\"");
+    const std::string attribute = "miscStatusContent=\"";
+    const size_t start = progIdAt == std::string::npos ? progIdAt : manifest.find(attribute, progIdAt);
+    if (start == std::string::npos)
+        return std::nullopt;
+    const size_t valueStart = start + attribute.size();
+    static const std::pair<const char*, DWORD> bits[] = { { "recomposeonresize", OLEMISC_RECOMPOSEONRESIZE },
+        { "cantlinkinside", OLEMISC_CANTLINKINSIDE }, { "insideout", OLEMISC_INSIDEOUT },
+        { "activatewhenvisible", OLEMISC_ACTIVATEWHENVISIBLE }, { "setclientsitefirst", OLEMISC_SETCLIENTSITEFIRST },
+        { "actslikebutton", OLEMISC_ACTSLIKEBUTTON }, { "nouiactivate", OLEMISC_NOUIACTIVATE } };
+    std::istringstream words(manifest.substr(valueStart, manifest.find('"', valueStart) - valueStart));
+    DWORD status = 0;
+    for (std::string word; std::getline(words, word, ',');) {
+        const auto bit = std::find_if(std::begin(bits), std::end(bits), [&](const auto& b) { return word == b.first; });
+        if (bit == std::end(bits))
+            return std::nullopt;
+        status |= bit->second;
+    }
+    return status;
 }
 
 class Registration : public testing::Test {
@@ -100,8 +133,8 @@ TEST_F(Registration, EveryClassRegistersTheMiscStatusItsObjectsAnswer)
         ASSERT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, object.PutVoid()), S_OK);
         DWORD status = 0;
         ASSERT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
-        EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(clsid) + L"\\MiscStatus\\1"),
-            std::to_wstring(status))
+        EXPECT_EQ(
+            RegistryText(HKEY_CLASSES_ROOT, L"CLSID\\" + GuidText(clsid) + L"\\MiscStatus\\1"), std::to_wstring(status))
             << GuidText(clsid);
         ++classes;
     }
@@ -125,6 +158,16 @@ TEST_F(Registration, EveryControlHasAToolboxBitmapOfItsOwn)
         ASSERT_FALSE(pixels.empty()) << c->name << ": no 16 x 15 bitmap " << value;
         EXPECT_TRUE(pictures.insert(pixels).second) << c->name << " shows another control's picture";
     }
+}
+
+// A container reads a class's status from the assembly manifest when the DLL is not registered:
+// the same bits as the class's record.
+TEST_F(Registration, TheAssemblyManifestGivesEveryClassTheStatusItsObjectsAnswer)
+{
+    const HMODULE module = GetModuleHandleW(TolvaKitDll::Path().c_str());
+    ASSERT_NE(module, nullptr);
+    for (const ControlClass* c : ControlClasses())
+        EXPECT_EQ(ManifestStatus(module, c->ProgId()), c->behaviour.miscStatus) << c->ProgId();
 }
 
 TEST_F(Registration, TheTypeLibraryLoadsFromTheRegistry)
