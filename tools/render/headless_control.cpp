@@ -2,6 +2,7 @@
 #include "controls/command/tolva_command.h"
 #include "controls/input/tolva_input.h"
 #include "controls/label/tolva_label.h"
+#include "controls/list/tolva_list.h"
 #include "controls/scroll/tolva_scroll.h"
 #include "controls/tabs/tolva_tabs.h"
 #include "host/form/form_object.h"
@@ -33,6 +34,7 @@ constexpr HeadlessControlClass Classes[] = {
     { u"TolvaKit.TolvaScroll", true, &Create<TolvaScroll> },
     { u"TolvaKit.TolvaInput", true, &Create<TolvaInput> },
     { u"TolvaKit.TolvaTabs", true, &Create<TolvaTabs> },
+    { u"TolvaKit.TolvaList", true, &Create<TolvaList> },
 };
 
 } // namespace
