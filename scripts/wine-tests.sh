@@ -109,7 +109,7 @@ pictures="$root/build/headless-pictures"
 mkdir -p "$pictures/forms"
 for form in examples/*.frm; do
     name=$(basename "$form" .frm)
-    "$render" --form "$form" "$pictures/forms/$name.png" --text-boxes "$pictures/forms/$name.text"
+    "$render" "$form" "$pictures/forms/$name.png" --text-boxes "$pictures/forms/$name.text"
 done
 export TOLVA_HEADLESS_PICTURES="$(windows_path "$pictures")"
 

@@ -2,7 +2,7 @@
 //
 //   tolva_render <folder> [--zoom N]
 //       every scene of the controls, into <folder>/<scene>.png, printing each path;
-//   tolva_render --form <form.frm> <picture.png> [--text-boxes <file>] [--zoom N]
+//   tolva_render <form.frm> <picture.png> [--text-boxes <file>] [--zoom N]
 //       the client area of a form of the form host (TolvaHost's file format) with its controls;
 //       --text-boxes writes where the picture holds text, one "left top right bottom" line per
 //       box, for comparing it with a picture drawn by another font engine.
@@ -58,7 +58,7 @@ std::optional<Options> Parse(int argc, char** argv)
 int Usage()
 {
     std::cerr << "usage: tolva_render <output-folder> [--zoom N]\n"
-                 "       tolva_render --form <form.frm> <picture.png> [--text-boxes <file>] [--zoom N]\n";
+                 "       tolva_render <form.frm> <picture.png> [--text-boxes <file>] [--zoom N]\n";
     return 2;
 }
 
@@ -82,14 +82,19 @@ bool Write(const RasterCanvas& image, const std::filesystem::path& path, int zoo
     return false;
 }
 
-int RenderScenes(const std::filesystem::path& folder, int zoom)
+bool CreateFolder(const std::filesystem::path& folder)
 {
     std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (error) {
-        std::cerr << "tolva_render: cannot create " << folder << ": " << error.message() << "\n";
+    if (folder.empty() || std::filesystem::create_directories(folder, error) || !error)
+        return true;
+    std::cerr << "tolva_render: cannot create " << folder << ": " << error.message() << "\n";
+    return false;
+}
+
+int RenderScenes(const std::filesystem::path& folder, int zoom)
+{
+    if (!CreateFolder(folder))
         return 1;
-    }
     int failures = 0;
     for (const tolva::render::Scene& scene : tolva::render::AllScenes()) {
         tolva::render::Stage stage(scene.width, scene.height);
@@ -119,7 +124,7 @@ int RenderForm(const std::string& formPath, const std::filesystem::path& picture
     try {
         const tolva::FormObject form = tolva::FormReader::Read(text.str());
         const RasterCanvas image = tolva::render::FormStage(form).Picture();
-        if (!Write(image, picture, zoom))
+        if (!CreateFolder(picture.parent_path()) || !Write(image, picture, zoom))
             return 1;
         if (boxesPath.empty())
             return 0;
@@ -151,9 +156,9 @@ int main(int argc, char** argv)
     if (!options)
         return Usage();
     const auto& operands = options->operands;
-    if (operands.size() == 3 && operands[0] == "--form")
-        return RenderForm(std::string(operands[1]), operands[2], options->textBoxes, options->zoom);
-    if (operands.size() == 1 && options->textBoxes.empty() && operands[0] != "--form")
+    if (operands.size() == 2)
+        return RenderForm(std::string(operands[0]), operands[1], options->textBoxes, options->zoom);
+    if (operands.size() == 1 && options->textBoxes.empty())
         return RenderScenes(operands[0], options->zoom);
     return Usage();
 }
