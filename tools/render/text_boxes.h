@@ -16,8 +16,9 @@ struct PixelBox {
 // from the same scene drawn with its text hidden, and those in which that one differs from the
 // scene drawn with its text hidden and measured wider. They are grouped into one box per word or
 // line (pixels up to `reach` apart belong together), grown by `margin` on every side within the
-// picture. Another font engine draws the same text, a little wider or narrower, inside them.
+// picture. Another font engine draws the same text, a little wider or narrower and a pixel or two
+// higher or lower (a text box's text), inside them.
 std::vector<PixelBox> TextBoxes(const headless::RasterCanvas& withText, const headless::RasterCanvas& hidden,
-    const headless::RasterCanvas& hiddenAndWider, int32_t reach = 4, int32_t margin = 2);
+    const headless::RasterCanvas& hiddenAndWider, int32_t reach = 4, int32_t margin = 3);
 
 } // namespace tolva::render

@@ -31,6 +31,9 @@ TEST_F(WindowPictureTest, WithoutBorderItIsTheClientAreaWithTheChildrenOverIt)
     EXPECT_EQ(picture.Pixel(2, 1), Blue);
     EXPECT_EQ(picture.Pixel(5, 3), Blue);
     EXPECT_EQ(picture.Pixel(6, 4), Green);
+
+    child->SetVisible(false);
+    EXPECT_EQ(WindowPicture(root).Pixel(2, 1), Green) << "a hidden child is not drawn";
 }
 
 TEST_F(WindowPictureTest, AFlatBorderIsABlackFrameOfOnePixelAndTheClientStartsInsideIt)
