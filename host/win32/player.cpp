@@ -26,7 +26,7 @@ struct NamedKey {
     WORD key;
 };
 
-constexpr std::array<NamedKey, 21> NamedKeys { {
+constexpr std::array<NamedKey, 23> NamedKeys { {
     { u"Enter", VK_RETURN },
     { u"Space", VK_SPACE },
     { u"Escape", VK_ESCAPE },
@@ -37,6 +37,8 @@ constexpr std::array<NamedKey, 21> NamedKeys { {
     { u"Right", VK_RIGHT },
     { u"Home", VK_HOME },
     { u"End", VK_END },
+    { u"PageUp", VK_PRIOR },
+    { u"PageDown", VK_NEXT },
     { u"Back", VK_BACK },
     { u"Delete", VK_DELETE },
     { u"Shift", VK_SHIFT },
