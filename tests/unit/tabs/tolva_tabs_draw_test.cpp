@@ -6,7 +6,7 @@
 namespace tolva::testing {
 namespace {
 
-constexpr ColorRef ButtonFace = 0xC8D0D4; // the headless system colours
+const ColorRef ButtonFace = headless::RasterCanvas(1, 1).SystemColor(SystemColorIndex(SystemColor::ButtonFace));
 constexpr ColorRef ButtonText = 0x000000;
 constexpr ColorRef Border = 0x8C969C;
 constexpr ColorRef Inactive = 0xCEDBDE;

@@ -1,4 +1,5 @@
 #include "core/memory_property_bag.h"
+#include "platform/headless/raster_canvas.h"
 #include "tabs_test_fixture.h"
 #include "tests/unit/core/run_time_error_of.h"
 #include <functional>
@@ -7,7 +8,7 @@ namespace tolva::testing {
 namespace {
 
 using OperationKind = MemoryPropertyBag::OperationKind;
-constexpr ColorRef ButtonFace = 0xC8D0D4; // the headless system colour
+const ColorRef ButtonFace = headless::RasterCanvas(1, 1).SystemColor(SystemColorIndex(SystemColor::ButtonFace));
 constexpr ColorRef Inactive = 0xCEDBDE;
 
 std::vector<String> Captions(const TolvaTabs& tabs)
