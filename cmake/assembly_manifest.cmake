@@ -1,8 +1,9 @@
 # Writes the side-by-side assembly manifest of TolvaKit.dll from its type library source: every
-# coclass of TolvaKit.idl becomes a COM class of the assembly with its ProgIDs, every
-# dispinterface is marshalled by the standard dispatch marshaller, and the type library is
-# declared, so that a client whose application manifest depends on the assembly "TolvaKit"
-# creates the controls without any registration.
+# coclass of TolvaKit.idl becomes a COM class of the assembly with its ProgIDs, so does every
+# property page (by class id only), every dispinterface is marshalled by the standard dispatch
+# marshaller, and the type library is declared, so that a client whose application manifest
+# depends on the assembly "TolvaKit" creates the controls and their pages without any
+# registration.
 #
 #   cmake -DIDL=<TolvaKit.idl> -DOUTPUT=<TolvaKit.manifest> -DARCHITECTURE=<amd64|x86>
 #         -DVERSION=<a.b.c.d> -P assembly_manifest.cmake
@@ -23,6 +24,16 @@ string(REGEX REPLACE ".*=" "" library_id "${libraries}")
 set(misc_status "recomposeonresize,cantlinkinside,insideout,activatewhenvisible,setclientsitefirst")
 set(misc_status_TolvaCommand "actslikebutton")
 set(misc_status_TolvaLabel "nouiactivate")
+# The property pages the DLL serves (platform/win32/pages/page_classes.cpp), which designers
+# create by class id; the DLL suite creates each of them through this manifest.
+set(property_pages
+    "ppgCommand={F05DB81C-800B-47DB-BE4C-445EB640618D}"
+    "ppgLabel={488C25FB-0A86-463F-B28D-DB53BDE7061E}"
+    "ppgInput={EC075120-D569-4450-8E52-0FDAEF6D5999}"
+    "ppgScroll={A3A9B5E1-EA3A-441F-9054-945454114EF1}"
+    "ppgTabs={1951A08C-893D-41AE-A129-2EDEAAE534BE}"
+    "ppgColumns={F37D9AD1-E524-4417-8D6A-2830B2DBC185}"
+    "ppgListGeneral={BFA96013-3FC0-4A7F-A7EE-F0DBFE7FA865}")
 set(dispatch_marshaller "{00020420-0000-0000-C000-000000000046}")
 
 set(xml "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n")
@@ -43,6 +54,11 @@ foreach(class ${classes})
                       " miscStatusContent=\"${status}\">\n")
     string(APPEND xml "            <progid>TolvaKit.${name}.1</progid>\n")
     string(APPEND xml "        </comClass>\n")
+endforeach()
+foreach(page ${property_pages})
+    string(REGEX REPLACE "=.*" "" name "${page}")
+    string(REGEX REPLACE ".*=" "" clsid "${page}")
+    string(APPEND xml "        <comClass clsid=\"${clsid}\" threadingModel=\"Apartment\" description=\"${name}\"/>\n")
 endforeach()
 string(APPEND xml "    </file>\n")
 foreach(interface ${interfaces})

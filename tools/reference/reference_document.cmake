@@ -12,9 +12,9 @@ endif()
 foreach(path DLL output)
     string(REPLACE "/" "\\" windows_${path} "Z:${${path}}")
 endforeach()
-# Wine's output goes to a file: a pipe would stay open as long as the prefix's background
-# processes that a program started.
-get_filename_component(folder ${output} DIRECTORY)
+# Wine's output goes to a file beside the tool: a pipe would stay open as long as the prefix's
+# background processes that a program started.
+get_filename_component(folder ${TOOL} DIRECTORY)
 execute_process(COMMAND ${WINE} ${TOOL} ${windows_DLL} ${windows_output} RESULT_VARIABLE status
     OUTPUT_FILE ${folder}/tolva_reference.log ERROR_FILE ${folder}/tolva_reference.log)
 if(NOT status EQUAL 0)
