@@ -45,7 +45,13 @@ public:
 
     int Width() const { return m_width; }
     int Height() const { return m_height; }
-    uint32_t At(int x, int y) const { return m_pixels[size_t(y) * size_t(m_width) + size_t(x)]; }
+    // Outside the picture (a window that was never created has none) the answer is NoPixel, so a
+    // test fails on the colour instead of reading past the pixels.
+    static constexpr uint32_t NoPixel = 0xFFFFFFFF;
+    uint32_t At(int x, int y) const
+    {
+        return x >= 0 && y >= 0 && x < m_width && y < m_height ? m_pixels[size_t(y) * size_t(m_width) + size_t(x)] : NoPixel;
+    }
     // How many pixels of the rectangle have this colour.
     int Count(uint32_t color, int left, int top, int right, int bottom) const;
     int Count(uint32_t color) const { return Count(color, 0, 0, m_width, m_height); }
