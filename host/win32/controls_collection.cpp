@@ -1,15 +1,18 @@
 #include "host/win32/controls_collection.h"
 #include "core/automation_error.h"
 #include "host/win32/host_form.h"
-#include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/binder.h"
 
 namespace tolva::host {
 
 namespace {
 
-enum : DISPID { ItemId = DISPID_VALUE, CountId = 1 };
+using B = win32::Binder<ControlsCollection>;
 
-constexpr DispatchObject::Member CollectionMembers[] = { { L"Item", ItemId }, { L"Count", CountId } };
+const win32::DispatchMember CollectionMembers[] = {
+    B::Property<&ControlsCollection::Item>(DISPID_VALUE, L"Item"),
+    B::Property<&ControlsCollection::Count>(1, L"Count"),
+};
 
 // Visual Basic's "Control not found" (730) as the form reports it.
 AutomationError ControlNotFound(StringView name)
@@ -19,49 +22,38 @@ AutomationError ControlNotFound(StringView name)
 
 } // namespace
 
-std::span<const DispatchObject::Member> ControlsCollection::Members() const
+std::span<const win32::DispatchMember> ControlsCollection::Table()
 {
     return CollectionMembers;
 }
 
-IDispatch* ControlsCollection::Item(const VARIANT& key) const
+HostForm& ControlsCollection::Form() const
 {
     if (!m_form)
-        throw AutomationError::RunTime(RunTimeError::InvalidProcedureCall);
-    if (V_VT(&key) == VT_BSTR || V_VT(&key) == (VT_BSTR | VT_BYREF)) {
-        const String name = win32::ToText(key);
-        IDispatch* item = m_form->ControlObject(name);
+        throw win32::ComError(E_UNEXPECTED);
+    return *m_form;
+}
+
+IDispatch* ControlsCollection::Item(const Variant& key) const
+{
+    HostForm& form = Form();
+    if (key.Holds<String>()) {
+        const String name = key.ToString();
+        IDispatch* item = form.ControlObject(name);
         if (!item)
             throw ControlNotFound(name);
         return item;
     }
-    const std::vector<IDispatch*> items = m_form->ControlObjects();
-    const int32_t index = win32::ToInt32(key);
+    const std::vector<IDispatch*> items = form.ControlObjects();
+    const int32_t index = key.ToInt32();
     if (index < 0 || size_t(index) >= items.size())
         throw AutomationError::RunTime(RunTimeError::SubscriptOutOfRange);
     return items[size_t(index)];
 }
 
-HRESULT ControlsCollection::Call(DISPID id, WORD, std::span<VARIANT*> arguments, VARIANT* result)
+int32_t ControlsCollection::Count() const
 {
-    if (!m_form)
-        return E_UNEXPECTED;
-    if (id == CountId) {
-        if (result)
-            win32::PutInt32(*result, int32_t(m_form->ControlObjects().size()));
-        return S_OK;
-    }
-    if (id != ItemId)
-        return DISP_E_MEMBERNOTFOUND;
-    if (arguments.size() != 1)
-        return DISP_E_BADPARAMCOUNT;
-    IDispatch* item = Item(*arguments[0]);
-    if (result) {
-        V_VT(result) = VT_DISPATCH;
-        V_DISPATCH(result) = item;
-        item->AddRef();
-    }
-    return S_OK;
+    return int32_t(Form().ControlObjects().size());
 }
 
 } // namespace tolva::host

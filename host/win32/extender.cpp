@@ -1,49 +1,34 @@
 #include "host/win32/extender.h"
-#include "core/automation_error.h"
 #include "host/win32/form_control.h"
 #include "host/win32/host_form.h"
-#include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/binder.h"
 
 namespace tolva::host {
 
 namespace {
 
+using B = win32::Binder<Extender>;
+using E = Extender;
+
 // Far from the ids of the controls' own members.
-enum : DISPID {
-    NameId = 0x70000001,
-    LeftId,
-    TopId,
-    WidthId,
-    HeightId,
-    VisibleId,
-    ParentId,
-    DefaultId,
-    TabIndexId,
-    TagId,
+const win32::DispatchMember ExtenderMembers[] = {
+    B::Property<&E::Name>(0x70000001, L"Name"),
+    B::Property<&E::Left, &E::SetLeft>(0x70000002, L"Left"),
+    B::Property<&E::Top, &E::SetTop>(0x70000003, L"Top"),
+    B::Property<&E::Width, &E::SetWidth>(0x70000004, L"Width"),
+    B::Property<&E::Height, &E::SetHeight>(0x70000005, L"Height"),
+    B::Property<&E::Visible, &E::SetVisible>(0x70000006, L"Visible"),
+    B::Property<&E::Parent>(0x70000007, L"Parent"),
+    B::Property<&E::Default, &E::SetDefault>(0x70000008, L"Default"),
+    B::Property<&E::TabIndex>(0x70000009, L"TabIndex"),
+    B::Property<&E::Tag, &E::SetTag>(0x7000000A, L"Tag"),
 };
-
-constexpr DispatchObject::Member ExtenderMembers[] = {
-    { L"Name", NameId },
-    { L"Left", LeftId },
-    { L"Top", TopId },
-    { L"Width", WidthId },
-    { L"Height", HeightId },
-    { L"Visible", VisibleId },
-    { L"Parent", ParentId },
-    { L"Default", DefaultId },
-    { L"TabIndex", TabIndexId },
-    { L"Tag", TagId },
-};
-
-bool IsExtenderId(DISPID id)
-{
-    return id >= NameId && id <= TagId;
-}
 
 } // namespace
 
 Extender::Extender(FormControl& control, win32::ComPtr<IDispatch> controlDispatch)
-    : m_control(&control)
+    : BoundDispatch(this, Table())
+    , m_control(&control)
     , m_controlDispatch(std::move(controlDispatch))
 { }
 
@@ -53,7 +38,7 @@ void Extender::Disconnect()
     m_controlDispatch.Reset();
 }
 
-std::span<const DispatchObject::Member> Extender::Members() const
+std::span<const win32::DispatchMember> Extender::Table()
 {
     return ExtenderMembers;
 }
@@ -69,92 +54,112 @@ HRESULT Extender::UnknownName(LPOLESTR name, DISPID* id)
 HRESULT Extender::Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* params, VARIANT* result,
     EXCEPINFO* exception, UINT* argumentError)
 {
-    if (IsExtenderId(id))
-        return DispatchObject::Invoke(id, iid, locale, flags, params, result, exception, argumentError);
+    if (win32::FindMember(ExtenderMembers, id))
+        return BoundDispatch::Invoke(id, iid, locale, flags, params, result, exception, argumentError);
     if (!m_controlDispatch)
         return DISP_E_MEMBERNOTFOUND;
     win32::ComPtr<IDispatch> control = m_controlDispatch;
     return control->Invoke(id, IID_NULL, locale, flags, params, result, exception, argumentError);
 }
 
-HRESULT Extender::Call(DISPID id, WORD flags, std::span<VARIANT*> arguments, VARIANT* result)
+FormControl& Extender::Control() const
 {
     if (!m_control)
-        return E_UNEXPECTED;
-    FormControl& control = *m_control;
-    if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
-        if (arguments.size() != 1)
-            return DISP_E_BADPARAMCOUNT;
-        const VARIANT& value = *arguments[0];
-        switch (id) {
-        case LeftId:
-            control.Move(win32::ToFloat(value), control.Top(), control.Width(), control.Height());
-            return S_OK;
-        case TopId:
-            control.Move(control.Left(), win32::ToFloat(value), control.Width(), control.Height());
-            return S_OK;
-        case WidthId:
-            control.Move(control.Left(), control.Top(), win32::ToFloat(value), control.Height());
-            return S_OK;
-        case HeightId:
-            control.Move(control.Left(), control.Top(), control.Width(), win32::ToFloat(value));
-            return S_OK;
-        case VisibleId:
-            control.SetVisible(win32::ToBool(value));
-            return S_OK;
-        case TagId:
-            control.SetTag(win32::ToText(value));
-            return S_OK;
-        case DefaultId:
-            if (win32::ToBool(value))
-                control.Form().SetDefaultButton(&control);
-            else if (control.IsDefault())
-                control.Form().SetDefaultButton(nullptr);
-            return S_OK;
-        default:
-            throw AutomationError::RunTime(RunTimeError::InvalidProcedureCall); // read-only here
-        }
-    }
-    if (!arguments.empty())
-        return DISP_E_BADPARAMCOUNT;
-    if (!result)
-        return S_OK;
-    switch (id) {
-    case NameId:
-        win32::PutText(*result, control.Name());
-        return S_OK;
-    case LeftId:
-        win32::PutFloat(*result, control.Left());
-        return S_OK;
-    case TopId:
-        win32::PutFloat(*result, control.Top());
-        return S_OK;
-    case WidthId:
-        win32::PutFloat(*result, control.Width());
-        return S_OK;
-    case HeightId:
-        win32::PutFloat(*result, control.Height());
-        return S_OK;
-    case VisibleId:
-        win32::PutBool(*result, control.Visible());
-        return S_OK;
-    case ParentId:
-        V_VT(result) = VT_DISPATCH;
-        V_DISPATCH(result) = control.Form().Automation();
-        V_DISPATCH(result)->AddRef();
-        return S_OK;
-    case DefaultId:
-        win32::PutBool(*result, control.IsDefault());
-        return S_OK;
-    case TabIndexId:
-        win32::PutInt16(*result, int16_t(control.TabIndex()));
-        return S_OK;
-    case TagId:
-        win32::PutText(*result, control.Tag());
-        return S_OK;
-    default:
-        return DISP_E_MEMBERNOTFOUND;
-    }
+        throw win32::ComError(E_UNEXPECTED);
+    return *m_control;
+}
+
+String Extender::Name() const
+{
+    return Control().Name();
+}
+
+float Extender::Left() const
+{
+    return Control().Left();
+}
+
+void Extender::SetLeft(float left)
+{
+    FormControl& c = Control();
+    c.Move(left, c.Top(), c.Width(), c.Height());
+}
+
+float Extender::Top() const
+{
+    return Control().Top();
+}
+
+void Extender::SetTop(float top)
+{
+    FormControl& c = Control();
+    c.Move(c.Left(), top, c.Width(), c.Height());
+}
+
+float Extender::Width() const
+{
+    return Control().Width();
+}
+
+void Extender::SetWidth(float width)
+{
+    FormControl& c = Control();
+    c.Move(c.Left(), c.Top(), width, c.Height());
+}
+
+float Extender::Height() const
+{
+    return Control().Height();
+}
+
+void Extender::SetHeight(float height)
+{
+    FormControl& c = Control();
+    c.Move(c.Left(), c.Top(), c.Width(), height);
+}
+
+bool Extender::Visible() const
+{
+    return Control().Visible();
+}
+
+void Extender::SetVisible(bool visible)
+{
+    Control().SetVisible(visible);
+}
+
+IDispatch* Extender::Parent() const
+{
+    return Control().Form().Automation();
+}
+
+bool Extender::Default() const
+{
+    return Control().IsDefault();
+}
+
+void Extender::SetDefault(bool isDefault)
+{
+    FormControl& c = Control();
+    if (isDefault)
+        c.Form().SetDefaultButton(&c);
+    else if (c.IsDefault())
+        c.Form().SetDefaultButton(nullptr);
+}
+
+int16_t Extender::TabIndex() const
+{
+    return int16_t(Control().TabIndex());
+}
+
+String Extender::Tag() const
+{
+    return Control().Tag();
+}
+
+void Extender::SetTag(StringView tag)
+{
+    Control().SetTag(String(tag));
 }
 
 } // namespace tolva::host

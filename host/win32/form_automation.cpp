@@ -2,34 +2,28 @@
 #include "core/automation_error.h"
 #include "host/win32/host_form.h"
 #include "host/win32/menu_item.h"
-#include "platform/win32/com/argument_conversion.h"
-#include <optional>
+#include "platform/win32/com/binder.h"
 
 namespace tolva::host {
 
 namespace {
 
-enum : DISPID { NameId = 1, CaptionId, HwndId, ControlsId, PopupMenuId };
+using B = win32::Binder<FormAutomation>;
+using F = FormAutomation;
 
-constexpr DispatchObject::Member FormMembers[] = {
-    { L"Name", NameId },
-    { L"Caption", CaptionId },
-    { L"hwnd", HwndId },
-    { L"Controls", ControlsId },
-    { L"PopupMenu", PopupMenuId },
+const win32::DispatchMember FormMembers[] = {
+    B::Property<&F::Name>(1, L"Name"),
+    B::Property<&F::Caption, &F::SetCaption>(2, L"Caption"),
+    B::Property<&F::Hwnd>(3, L"hwnd"),
+    B::Property<&F::Controls>(4, L"Controls"),
+    B::Method<&F::PopupMenu>(5, L"PopupMenu", { { 1 } }),
 };
-
-std::optional<double> OptionalNumber(std::span<VARIANT*> arguments, size_t index)
-{
-    if (index >= arguments.size() || win32::IsMissing(*arguments[index]))
-        return std::nullopt;
-    return win32::ToDouble(*arguments[index]);
-}
 
 } // namespace
 
 FormAutomation::FormAutomation(HostForm& form)
-    : m_form(&form)
+    : BoundDispatch(this, Table())
+    , m_form(&form)
     , m_controls(win32::ComPtr<ControlsCollection>::Adopt(new ControlsCollection(form)))
 { }
 
@@ -39,63 +33,53 @@ void FormAutomation::Disconnect()
     m_controls->Disconnect();
 }
 
-std::span<const DispatchObject::Member> FormAutomation::Members() const
+std::span<const win32::DispatchMember> FormAutomation::Table()
 {
     return FormMembers;
 }
 
-HRESULT FormAutomation::Call(DISPID id, WORD flags, std::span<VARIANT*> arguments, VARIANT* result)
+HostForm& FormAutomation::Form() const
 {
     if (!m_form)
-        return E_UNEXPECTED;
-    HostForm& form = *m_form;
-    if (flags & DISPATCH_PROPERTYPUT) {
-        if (id != CaptionId)
-            throw AutomationError::RunTime(RunTimeError::InvalidProcedureCall);
-        if (arguments.size() != 1)
-            return DISP_E_BADPARAMCOUNT;
-        form.SetCaption(win32::ToText(*arguments[0]));
-        return S_OK;
-    }
-    switch (id) {
-    case NameId:
-        if (result)
-            win32::PutText(*result, form.Name());
-        return S_OK;
-    case CaptionId:
-        if (result)
-            win32::PutText(*result, form.Caption());
-        return S_OK;
-    case HwndId:
-        // A window handle travels as a Long, as a form's hwnd does.
-        if (result)
-            win32::PutInt32(*result, int32_t(reinterpret_cast<intptr_t>(form.Window())));
-        return S_OK;
-    case ControlsId:
-        if (arguments.size() > 1)
-            return DISP_E_BADPARAMCOUNT;
-        if (result) {
-            // Controls(name) is Controls.Item(name).
-            IDispatch* value = arguments.empty() ? m_controls.Get() : m_controls->Item(*arguments[0]);
-            V_VT(result) = VT_DISPATCH;
-            V_DISPATCH(result) = value;
-            value->AddRef();
-        }
-        return S_OK;
-    case PopupMenuId: {
-        if (arguments.empty() || arguments.size() > 4)
-            return DISP_E_BADPARAMCOUNT;
-        MenuItem* menu = form.MenuOf(*arguments[0]);
-        if (!menu)
-            throw AutomationError::RunTime(RunTimeError::TypeMismatch);
-        const std::optional<double> flagsValue = OptionalNumber(arguments, 1);
-        form.PopupMenu(
-            *menu, flagsValue ? int(*flagsValue) : 0, OptionalNumber(arguments, 2), OptionalNumber(arguments, 3));
-        return S_OK;
-    }
-    default:
-        return DISP_E_MEMBERNOTFOUND;
-    }
+        throw win32::ComError(E_UNEXPECTED);
+    return *m_form;
+}
+
+String FormAutomation::Name() const
+{
+    return Form().Name();
+}
+
+String FormAutomation::Caption() const
+{
+    return Form().Caption();
+}
+
+void FormAutomation::SetCaption(StringView caption)
+{
+    Form().SetCaption(caption);
+}
+
+int32_t FormAutomation::Hwnd() const
+{
+    return int32_t(reinterpret_cast<intptr_t>(Form().Window()));
+}
+
+IDispatch* FormAutomation::Controls(const std::optional<Variant>& key) const
+{
+    if (key)
+        return m_controls->Item(*key);
+    Form(); // refused once disconnected, as the collection's members are
+    return m_controls.Get();
+}
+
+void FormAutomation::PopupMenu(const VARIANT& menu, int32_t flags, std::optional<double> x, std::optional<double> y)
+{
+    HostForm& form = Form();
+    MenuItem* item = form.MenuOf(menu);
+    if (!item)
+        throw AutomationError::RunTime(RunTimeError::TypeMismatch);
+    form.PopupMenu(*item, flags, x, y);
 }
 
 } // namespace tolva::host

@@ -1,21 +1,22 @@
 #include "host/win32/menu_item.h"
 #include "core/automation_error.h"
 #include "host/form/form_syntax_error.h"
-#include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/binder.h"
 #include "platform/win32/com/bstr.h"
 
 namespace tolva::host {
 
 namespace {
 
-enum : DISPID { NameId = 1, CaptionId, EnabledId, CheckedId, VisibleId };
+using B = win32::Binder<MenuItem>;
+using M = MenuItem;
 
-constexpr DispatchObject::Member MenuMembers[] = {
-    { L"Name", NameId },
-    { L"Caption", CaptionId },
-    { L"Enabled", EnabledId },
-    { L"Checked", CheckedId },
-    { L"Visible", VisibleId },
+const win32::DispatchMember MenuMembers[] = {
+    B::Property<&M::Name>(1, L"Name"),
+    B::Property<&M::Caption, &M::SetCaption>(2, L"Caption"),
+    B::Property<&M::Enabled, &M::SetEnabled>(3, L"Enabled"),
+    B::Property<&M::Checked, &M::SetChecked>(4, L"Checked"),
+    B::Property<&M::Visible, &M::SetVisible>(5, L"Visible"),
 };
 
 bool Flag(const FormObject& definition, StringView key, bool fallback)
@@ -123,61 +124,39 @@ void MenuItem::SetChangeHandler(std::function<void()> changed)
         item->SetChangeHandler(changed);
 }
 
-std::span<const DispatchObject::Member> MenuItem::Members() const
+std::span<const win32::DispatchMember> MenuItem::Table()
 {
     return MenuMembers;
 }
 
-HRESULT MenuItem::Call(DISPID id, WORD flags, std::span<VARIANT*> arguments, VARIANT* result)
+void MenuItem::SetCaption(StringView caption)
 {
-    const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
-    if (put) {
-        if (arguments.size() != 1)
-            return DISP_E_BADPARAMCOUNT;
-        const VARIANT& value = *arguments[0];
-        switch (id) {
-        case CaptionId:
-            m_caption = win32::ToText(value);
-            break;
-        case EnabledId:
-            m_enabled = win32::ToBool(value);
-            break;
-        case CheckedId:
-            m_checked = win32::ToBool(value);
-            break;
-        case VisibleId:
-            m_visible = win32::ToBool(value);
-            break;
-        default:
-            return DISP_E_MEMBERNOTFOUND;
-        }
-        if (m_changed)
-            m_changed();
-        return S_OK;
-    }
-    if (!arguments.empty())
-        return DISP_E_BADPARAMCOUNT;
-    if (!result)
-        return S_OK;
-    switch (id) {
-    case NameId:
-        win32::PutText(*result, Name());
-        return S_OK;
-    case CaptionId:
-        win32::PutText(*result, m_caption);
-        return S_OK;
-    case EnabledId:
-        win32::PutBool(*result, m_enabled);
-        return S_OK;
-    case CheckedId:
-        win32::PutBool(*result, m_checked);
-        return S_OK;
-    case VisibleId:
-        win32::PutBool(*result, m_visible);
-        return S_OK;
-    default:
-        return DISP_E_MEMBERNOTFOUND;
-    }
+    m_caption = caption;
+    Changed();
+}
+
+void MenuItem::SetEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    Changed();
+}
+
+void MenuItem::SetChecked(bool checked)
+{
+    m_checked = checked;
+    Changed();
+}
+
+void MenuItem::SetVisible(bool visible)
+{
+    m_visible = visible;
+    Changed();
+}
+
+void MenuItem::Changed()
+{
+    if (m_changed)
+        m_changed();
 }
 
 } // namespace tolva::host

@@ -1,8 +1,8 @@
 #pragma once
-#include "platform/win32/window/menu_handle.h"
 #include "host/form/form_object.h"
-#include "host/win32/dispatch_object.h"
+#include "platform/win32/com/bound_dispatch.h"
 #include "platform/win32/com/com_ptr.h"
+#include "platform/win32/window/menu_handle.h"
 #include <functional>
 #include <vector>
 
@@ -11,17 +11,22 @@ namespace tolva::host {
 // A menu control of the form (a VB.Menu block) and its items: the automation object that
 // Controls(name) hands out and PopupMenu takes back, with Name, Caption, Enabled, Checked and
 // Visible. A caption of "-" is a separator.
-class MenuItem final : public DispatchObject {
+class MenuItem final : public win32::BoundDispatch {
 public:
     // Builds the menu and its items from the block; ids are given out from nextId upwards.
     // Refuses an item that is not a VB.Menu with the block's line.
     static win32::ComPtr<MenuItem> FromForm(const FormObject& definition, UINT& nextId);
 
+    // The automation properties; a change calls the change handler.
     const String& Name() const { return m_definition.name; }
     const String& Caption() const { return m_caption; }
+    void SetCaption(StringView caption);
     bool Enabled() const { return m_enabled; }
+    void SetEnabled(bool enabled);
     bool Checked() const { return m_checked; }
+    void SetChecked(bool checked);
     bool Visible() const { return m_visible; }
+    void SetVisible(bool visible);
     UINT Id() const { return m_id; }
     const std::vector<win32::ComPtr<MenuItem>>& Items() const { return m_items; }
 
@@ -38,12 +43,13 @@ public:
     // Called after an automation call changed the menu (a menu bar shows it again).
     void SetChangeHandler(std::function<void()> changed);
 
-protected:
-    std::span<const Member> Members() const override;
-    HRESULT Call(DISPID id, WORD flags, std::span<VARIANT*> arguments, VARIANT* result) override;
+    static std::span<const win32::DispatchMember> Table();
 
 private:
-    MenuItem() = default;
+    MenuItem()
+        : BoundDispatch(this, Table())
+    { }
+    void Changed();
     void AppendItems(HMENU menu) const;
 
     FormObject m_definition; // the block as read, without its items

@@ -1,6 +1,7 @@
 #include "host/form/form_reader.h"
 #include "host/form/form_syntax_error.h"
 #include "host/form/form_writer.h"
+#include "platform/win32/com/bstr.h"
 #include "tests/gui/gui_support.h"
 #include "tests/gui/hosted_form.h"
 #include "tests/win32/support/dispatch_helpers.h"
@@ -202,14 +203,62 @@ TEST_F(HostFormTest, TheParentFormAnswersControlsHwndAndPopupMenu)
     OleVariant caption;
     ASSERT_EQ(test::Get(V_DISPATCH(&menu.Get()), L"Caption", caption), S_OK);
     EXPECT_EQ(test::AsText(caption), L"&File");
-    OleVariant missing;
-    EXCEPINFO error {};
-    EXPECT_EQ(test::Call(V_DISPATCH(&parent.Get()), test::IdOf(V_DISPATCH(&parent.Get()), L"Controls"),
-                  DISPATCH_METHOD | DISPATCH_PROPERTYGET, { test::Text(L"mnuNone") }, missing, &error),
-        DISP_E_EXCEPTION);
-    SysFreeString(error.bstrSource);
-    SysFreeString(error.bstrDescription);
-    SysFreeString(error.bstrHelpFile);
+}
+
+TEST_F(HostFormTest, TheControlsCollectionFindsByNameOrIndexAndRefusesOthersWithTheFormsErrors)
+{
+    OleVariant parent, controls, count;
+    ASSERT_EQ(test::Get(hosted.Control(u"cmdOK").Extender(), L"Parent", parent), S_OK);
+    ASSERT_EQ(test::Get(V_DISPATCH(&parent.Get()), L"Controls", controls), S_OK);
+    IDispatch* collection = V_DISPATCH(&controls.Get());
+    ASSERT_EQ(test::Get(collection, L"Count", count), S_OK);
+    EXPECT_EQ(test::AsLong(count), 6);
+
+    const Bstr first(u"CMDFIRST"), menu(u"cmdMenu"), none(u"cmdNone");
+    VARIANT menuName;
+    V_VT(&menuName) = VT_BSTR;
+    V_BSTR(&menuName) = menu.Get();
+    VARIANT variable; // a script's variable holding the name
+    V_VT(&variable) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&variable) = &menuName;
+    VARIANT noneName;
+    V_VT(&noneName) = VT_BSTR;
+    V_BSTR(&noneName) = none.Get();
+    VARIANT firstName = noneName;
+    V_BSTR(&firstName) = first.Get();
+    struct Case {
+        VARIANT key;
+        const wchar_t* name; // the item found, or the error's description
+        HRESULT scode = S_OK;
+    };
+    const Case cases[] = {
+        { firstName, L"cmdFirst" },
+        { variable, L"cmdMenu" },
+        { test::Double(0.4), L"cmdOK" },
+        { test::Long(5), L"mnuFileExit" },
+        { noneName, L"Control 'cmdNone' not found", HRESULT(0x800A02DA) },
+        { test::Long(6), L"Subscript out of range", HRESULT(0x800A0009) },
+        { test::Short(-1), L"Subscript out of range", HRESULT(0x800A0009) },
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << ToUtf8(ViewOf(c.name)));
+        OleVariant item, name;
+        EXCEPINFO error {};
+        const HRESULT hr
+            = test::Call(collection, DISPID_VALUE, DISPATCH_METHOD | DISPATCH_PROPERTYGET, { c.key }, item, &error);
+        if (c.scode == S_OK) {
+            ASSERT_EQ(hr, S_OK);
+            ASSERT_EQ(test::Get(V_DISPATCH(&item.Get()), L"Name", name), S_OK);
+            EXPECT_EQ(test::AsText(name), c.name);
+            continue;
+        }
+        EXPECT_EQ(hr, DISP_E_EXCEPTION);
+        EXPECT_EQ(error.scode, c.scode);
+        EXPECT_EQ(FromBstr(error.bstrDescription), FromWide(c.name));
+        SysFreeString(error.bstrSource);
+        SysFreeString(error.bstrDescription);
+        SysFreeString(error.bstrHelpFile);
+    }
 }
 
 TEST_F(HostFormTest, TheExtenderPassesOtherNamesToTheControl)

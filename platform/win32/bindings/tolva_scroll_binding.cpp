@@ -1,6 +1,8 @@
 #include "controls/scroll/tolva_scroll.h"
 #include "platform/win32/bindings/tolva_scroll_event_forwarder.h"
 #include "platform/win32/com/binder.h"
+#include "platform/win32/com/control_class.h"
+#include <olectl.h>
 
 // Defined by the type library's GUID file.
 extern "C" const CLSID CLSID_TolvaScroll;

@@ -1,7 +1,9 @@
 #include "controls/tabs/tolva_tabs.h"
 #include "platform/win32/bindings/tolva_tabs_event_forwarder.h"
 #include "platform/win32/com/binder.h"
+#include "platform/win32/com/control_class.h"
 #include "platform/win32/com/font_binding.h"
+#include <olectl.h>
 
 // Defined by the type library's GUID file.
 extern "C" const CLSID CLSID_TolvaTabs;

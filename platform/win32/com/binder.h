@@ -1,5 +1,4 @@
 #pragma once
-#include "platform/win32/com/control_object.h"
 #include "platform/win32/com/dispatch_arguments.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/ole_traits.h"
@@ -30,12 +29,15 @@ struct OptionalParameter {
     const wchar_t* enumName = nullptr;
 };
 
-// Builds binding-table entries for the public members of a core control class. Types, argument
-// counts and conversions follow from the member functions' signatures; an enumeration names
-// its type with Enum(L"tk..."). A parameter taken by non-const reference is [in, out]: what the
-// control leaves in it goes back to the caller's variable. A method's optional parameters are
-// listed with the value a caller who leaves one out stands for.
-template <class Control> class Binder {
+// Builds binding-table entries for the public members of a C++ class: a core control, or any
+// object a BoundDispatch serves (a collection, a pop-up window, a property page, the host's
+// form, menus and extenders); an entry is called on its BindingTarget's BoundObject(), which
+// must be an Object. Types, argument counts and conversions follow from the member functions'
+// signatures; an enumeration names its type with Enum(L"tk..."). A parameter taken by non-const
+// reference is [in, out]: what the object leaves in it goes back to the caller's variable. A
+// method's optional parameters are listed with the value a caller who leaves one out stands
+// for; a std::optional parameter is optional by itself and empty when left out.
+template <class Object> class Binder {
 public:
     // A property read by Get and, unless it is read-only, assigned by Let. Extra parameters of
     // Get are index arguments; Let takes the same ones followed by the value.
@@ -91,8 +93,11 @@ private:
 
     template <auto F, size_t... I> static std::vector<TypeSpec> ParameterTypes(std::index_sequence<I...>)
     {
-        return { TypeSpec { OleTraits<ArgumentType<F, I>>::Type, nullptr, ByReference<F, I> }... };
+        return { TypeSpec {
+            OleTraits<ArgumentType<F, I>>::Type, nullptr, ByReference<F, I>, IsOptional<ArgumentType<F, I>> }... };
     }
+
+    static Object& BoundTo(BindingTarget& target) { return *static_cast<Object*>(target.BoundObject()); }
 
     template <auto F, size_t I> using Converted = decltype(OleTraits<ArgumentType<F, I>>::From(std::declval<VARIANT>()));
 
@@ -122,27 +127,27 @@ private:
         (PutBackArgument<F, I>(arguments, std::get<I>(values)), ...);
     }
 
-    template <auto Get> static void CallGet(ControlObject& object, const DispatchArguments& arguments, VARIANT& result)
+    template <auto Get> static void CallGet(BindingTarget& target, const DispatchArguments& arguments, VARIANT& result)
     {
         auto values = ConvertArguments<Get>(arguments, std::make_index_sequence<ArgumentCount<Get>()>());
-        Control& control = object.ControlAs<Control>();
+        Object& object = BoundTo(target);
         using R = typename Signature<Get>::Result;
         if constexpr (std::is_void_v<R>) {
-            std::apply([&](auto&... v) { std::invoke(Get, control, v...); }, values);
+            std::apply([&](auto&... v) { std::invoke(Get, object, v...); }, values);
             PutBackArguments<Get>(arguments, values, std::make_index_sequence<ArgumentCount<Get>()>());
         } else {
-            decltype(auto) value = std::apply([&](auto&... v) -> R { return std::invoke(Get, control, v...); }, values);
+            decltype(auto) value = std::apply([&](auto&... v) -> R { return std::invoke(Get, object, v...); }, values);
             OleTraitsOf<R>::Put(result, value);
         }
     }
 
-    template <auto Let> static void CallLet(ControlObject& object, const DispatchArguments& arguments)
+    template <auto Let> static void CallLet(BindingTarget& target, const DispatchArguments& arguments)
     {
         constexpr size_t indexCount = ArgumentCount<Let>() - 1;
         auto indexes = ConvertArguments<Let>(arguments, std::make_index_sequence<indexCount>());
         auto value = arguments.ConvertValue(&OleTraits<ArgumentType<Let, indexCount>>::From);
-        Control& control = object.ControlAs<Control>();
-        std::apply([&](auto&... v) { std::invoke(Let, control, v..., value); }, indexes);
+        Object& object = BoundTo(target);
+        std::apply([&](auto&... v) { std::invoke(Let, object, v..., value); }, indexes);
     }
 };
 

@@ -18,7 +18,7 @@ namespace tolva::win32 {
 // (object_parts.cpp lists them). Whoever calls into the control from outside a COM call (a
 // window's message, a timer) holds a reference for the duration: a sink may release the
 // object inside an event.
-class ControlObject final : public IUnknown, private EventRaiser {
+class ControlObject final : public IUnknown, public BindingTarget, private EventRaiser {
 public:
     // A new object with one reference; throws on failure.
     static ComPtr<IUnknown> Create(const ControlClass& controlClass);
@@ -33,6 +33,8 @@ public:
     const ControlClass& Class() const { return m_class; }
     HostedControl& Control() { return *m_control; }
     template <class C> C& ControlAs() { return *static_cast<C*>(m_control->Object()); }
+    // The binding table's object: the core control.
+    void* BoundObject() override { return m_control->Object(); }
     Surface& ControlSurface() { return *m_surface; }
     OleControlSite& Site() { return m_site; }
     ConnectionPoint& Events() { return m_events; }

@@ -8,12 +8,11 @@
 
 namespace tolva::win32 {
 
-class ControlObject;
 class DispatchArguments;
 
 // A value type as the type library declares it. Colours are the OLE_COLOR alias; an
-// enumeration is a 32-bit value of the named enum type.
-enum class OleType { Void, Bool, Int16, Int32, Float, Double, Currency, Date, String, Color, Font, Variant };
+// enumeration is a 32-bit value of the named enum type; an object is an IDispatch handed out.
+enum class OleType { Void, Bool, Int16, Int32, Float, Double, Currency, Date, String, Color, Font, Variant, Object };
 
 struct TypeSpec {
     OleType type = OleType::Void;
@@ -28,12 +27,23 @@ constexpr TypeSpec Enum(const wchar_t* name)
     return { OleType::Int32, name };
 }
 
-// Reads a property or calls a method; result is empty on entry.
-using MemberGetter = void (*)(ControlObject& object, const DispatchArguments& arguments, VARIANT& result);
-// Assigns a property from arguments.Value().
-using MemberSetter = void (*)(ControlObject& object, const DispatchArguments& arguments);
+// What a binding table's entries are called on: the COM object that serves a C++ object (a
+// control object its core control, a BoundDispatch itself).
+class BindingTarget {
+public:
+    // The object the binding table was made for.
+    virtual void* BoundObject() = 0;
 
-// One entry of a control's binding table: what a dispatch id does.
+protected:
+    ~BindingTarget() = default;
+};
+
+// Reads a property or calls a method; result is empty on entry.
+using MemberGetter = void (*)(BindingTarget& target, const DispatchArguments& arguments, VARIANT& result);
+// Assigns a property from arguments.Value().
+using MemberSetter = void (*)(BindingTarget& target, const DispatchArguments& arguments);
+
+// One entry of a binding table: what a dispatch id does.
 struct DispatchMember {
     DISPID id = DISPID_UNKNOWN;
     const wchar_t* name = L"";

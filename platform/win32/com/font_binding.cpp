@@ -7,15 +7,18 @@ namespace tolva::win32 {
 
 namespace {
 
-void GetFont(ControlObject& object, const DispatchArguments&, VARIANT& result)
+// Only a control's table has the Font entry, so the target is a control object.
+void GetFont(BindingTarget& target, const DispatchArguments&, VARIANT& result)
 {
+    auto& object = static_cast<ControlObject&>(target);
     ComPtr<IFontDisp> font = object.FontObject().ObjectFor(object.Control().GetFont());
     V_VT(&result) = VT_DISPATCH;
     V_DISPATCH(&result) = font.Detach();
 }
 
-void SetFont(ControlObject& object, const DispatchArguments& arguments)
+void SetFont(BindingTarget& target, const DispatchArguments& arguments)
 {
+    auto& object = static_cast<ControlObject&>(target);
     ComPtr<IFont> font = arguments.ConvertValue([](const VARIANT& value) {
         ComPtr<IFont> f = FontOf(value);
         if (!f)

@@ -3,6 +3,7 @@
 #include "platform/win32/com/argument_conversion.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/variant_conversion.h"
+#include <optional>
 #include <type_traits>
 
 namespace tolva::win32 {
@@ -73,6 +74,34 @@ template <> struct OleTraits<Variant> {
     static Variant From(const VARIANT& v) { return ArgumentVariant(v); }
     static void Put(VARIANT& r, const Variant& v) { ToOleVariant(v, r); }
 };
+
+// An argument as the caller passed it (what a variant reference refers to), borrowed for the
+// call: an object whose identity counts. One left out is empty.
+template <> struct OleTraits<VARIANT> {
+    static constexpr OleType Type = OleType::Variant;
+    static VARIANT From(const VARIANT& v) { return Referenced(v); }
+};
+
+// An object handed out: the caller gets a reference of its own.
+template <> struct OleTraits<IDispatch*> {
+    static constexpr OleType Type = OleType::Object;
+    static void Put(VARIANT& r, IDispatch* v)
+    {
+        V_VT(&r) = VT_DISPATCH;
+        V_DISPATCH(&r) = v;
+        if (v)
+            v->AddRef();
+    }
+};
+
+// A parameter the caller may leave out: empty then.
+template <class T> struct OleTraits<std::optional<T>> {
+    static constexpr OleType Type = OleTraits<T>::Type;
+    static std::optional<T> From(const VARIANT& v) { return OleTraits<T>::From(v); }
+};
+
+template <class T> constexpr bool IsOptional = false;
+template <class T> constexpr bool IsOptional<std::optional<T>> = true;
 
 template <class T> using OleTraitsOf = OleTraits<std::remove_cvref_t<T>>;
 

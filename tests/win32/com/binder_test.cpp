@@ -2,10 +2,13 @@
 // methods with arguments and results, read-only properties and errors the control raises.
 #include "core/automation_error.h"
 #include "platform/win32/com/binder.h"
+#include "platform/win32/com/bound_dispatch.h"
 #include "platform/win32/com/bstr.h"
+#include "platform/win32/com/control_object.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <gtest/gtest.h>
 #include <map>
+#include <optional>
 #include <stdexcept>
 
 namespace tolva::win32::test {
@@ -172,6 +175,62 @@ TEST_F(Binding, AnyOtherFailureInsideTheControlStopsAtTheBoundary)
 {
     EXPECT_EQ(Call(d.Get(), 5, DISPATCH_METHOD, {}, result), E_UNEXPECTED);
     EXPECT_EQ(Call(d.Get(), 3, DISPATCH_PROPERTYGET, {}, result), S_OK);
+}
+
+// Any C++ object binds, not only a control: a tally served by a BoundDispatch, with a parameter
+// that may be left out, one taken as the caller passed it, and an object handed out.
+extern const DispatchMember TallyMembers[4];
+
+class Tally final : public BoundDispatch {
+public:
+    Tally()
+        : BoundDispatch(this, TallyMembers)
+    { }
+    int32_t Add(int32_t amount, std::optional<int32_t> times) { return m_total += amount * times.value_or(1); }
+    int32_t Total() const { return m_total; }
+    void SetTotal(int32_t total) { m_total = total; }
+    int16_t KindOf(const VARIANT& value) const { return int16_t(V_VT(&value)); }
+    IDispatch* Self() { return this; }
+
+private:
+    int32_t m_total = 0;
+};
+
+using T = Binder<Tally>;
+const DispatchMember TallyMembers[] = {
+    T::Method<&Tally::Add>(1, L"Add"),
+    T::Property<&Tally::Total, &Tally::SetTotal>(2, L"Total"),
+    T::Method<&Tally::KindOf>(3, L"KindOf"),
+    T::Property<&Tally::Self>(4, L"Self"),
+};
+
+TEST(BindingAnyObject, CallsItsMembersWithOptionalBorrowedAndObjectValues)
+{
+    auto tally = ComPtr<Tally>::Adopt(new Tally());
+    IDispatch* d = tally.Get();
+    OleVariant result;
+    EXPECT_EQ(IdOf(d, L"add"), 1);
+    EXPECT_EQ(Call(d, 1, DISPATCH_METHOD, { Long(5) }, result), S_OK);
+    EXPECT_EQ(AsLong(result), 5);
+    EXPECT_EQ(Call(d, 1, DISPATCH_METHOD, { Long(2), Long(3) }, result), S_OK);
+    EXPECT_EQ(Call(d, 1, DISPATCH_METHOD, { Long(2), Missing() }, result), S_OK);
+    EXPECT_EQ(AsLong(result), 13);
+    EXPECT_EQ(Call(d, 1, DISPATCH_METHOD, {}, result), DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(Call(d, 1, DISPATCH_METHOD, { Missing(), Long(1) }, result), DISP_E_PARAMNOTOPTIONAL);
+    ASSERT_EQ(Put(d, L"Total", Long(0)), S_OK);
+    Get(d, L"Total", result);
+    EXPECT_EQ(AsLong(result), 0);
+
+    VARIANT number = Long(7);
+    VARIANT reference;
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &number;
+    ASSERT_EQ(Call(d, 3, DISPATCH_METHOD, { reference }, result), S_OK);
+    EXPECT_EQ(AsLong(result), VT_I4);
+    ASSERT_EQ(Get(d, L"Self", result), S_OK);
+    ASSERT_EQ(result.Type(), VT_DISPATCH);
+    EXPECT_EQ(V_DISPATCH(&result.Get()), d);
+    EXPECT_EQ(Put(d, L"Self", Object(d)), DISP_E_MEMBERNOTFOUND);
 }
 
 } // namespace

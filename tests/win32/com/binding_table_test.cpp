@@ -5,11 +5,11 @@
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/com/type_library.h"
+#include "tests/win32/support/binding_table_checks.h"
 #include "tests/win32/support/command_object.h"
 #include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
-#include <set>
 #include <string>
 
 namespace tolva::win32 {
@@ -23,7 +23,7 @@ using test::NameOf;
 std::wstring Describe(const TypeSpec& t)
 {
     static const wchar_t* names[] = { L"void", L"bool", L"short", L"long", L"float", L"double", L"currency", L"date",
-        L"string", L"OLE_COLOR", L"font", L"variant" };
+        L"string", L"OLE_COLOR", L"font", L"variant", L"object" };
     std::wstring text = names[int(t.type)];
     if (t.enumName)
         text += std::wstring(L" enum ") + t.enumName;
@@ -171,15 +171,7 @@ TEST_P(BindingTable, EveryDeclaredMemberIsBound)
 
 TEST_P(BindingTable, IdsAndNamesAreUnique)
 {
-    std::set<DISPID> ids;
-    std::set<std::wstring> names;
-    for (const DispatchMember& m : GetParam()->members) {
-        EXPECT_TRUE(ids.insert(m.id).second) << m.id;
-        std::wstring lower = m.name;
-        for (wchar_t& ch : lower)
-            ch = towlower(ch);
-        EXPECT_TRUE(names.insert(lower).second);
-    }
+    test::ExpectUniqueIdsAndNames(GetParam()->members);
 }
 
 TEST_P(BindingTable, CoclassNamesItsDispatchAndEventInterfaces)

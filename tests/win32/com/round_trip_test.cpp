@@ -115,6 +115,7 @@ std::vector<Extreme> ExtremesOf(OleType type)
         return { Value(VT_R8, [](VARIANT& v) { V_R8(&v) = -DBL_MAX; }), Text(1 << 19, L"W"),
             Value(VT_I4, [](VARIANT& v) { V_I4(&v) = INT_MIN; }), Text(0, L"") };
     case OleType::Void:
+    case OleType::Object:
         break;
     }
     return {};

@@ -17,10 +17,6 @@ public:
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override;
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
         EXCEPINFO* exception, UINT* argumentError) override;
-
-private:
-    HRESULT Get(const DispatchMember& member, const DISPPARAMS& params, VARIANT* result, UINT* argumentError);
-    HRESULT Assign(const DispatchMember& member, WORD flags, const DISPPARAMS& params, UINT* argumentError);
 };
 
 } // namespace tolva::win32
