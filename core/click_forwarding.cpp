@@ -34,4 +34,9 @@ void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shi
     target.Events().MouseUp(button, shift, x, y);
 }
 
+void Click(MouseState& state, ClickTarget& target)
+{
+    MouseUp(state, target, LeftButton, 0, 0, 0);
+}
+
 } // namespace tolva::ClickForwarding

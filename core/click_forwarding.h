@@ -34,6 +34,10 @@ void MouseMove(
 // dragged off the control still clicks); every button is then forwarded as MouseUp.
 void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
 
+// A click without the mouse (an access key, a screen reader's default action): a left release
+// at the top-left corner.
+void Click(MouseState& state, ClickTarget& target);
+
 } // namespace ClickForwarding
 
 } // namespace tolva

@@ -183,14 +183,32 @@ void TolvaCommand::OnKeyPress(int16_t& keyAscii)
 void TolvaCommand::OnKeyUp(int16_t& keyCode, int16_t& shift)
 {
     if (keyCode == KeySpace)
-        ClickForwarding::MouseUp(m_mouse, *this, LeftButton, 0, 0, 0);
+        ClickForwarding::Click(m_mouse, *this);
     m_events->KeyUp(keyCode, shift);
 }
 
 // Alt with the access character is a left-button release at (0, 0): Click, menu, MouseUp.
 void TolvaCommand::OnAccessKeyPress(char16_t)
 {
-    ClickForwarding::MouseUp(m_mouse, *this, LeftButton, 0, 0, 0);
+    ClickForwarding::Click(m_mouse, *this);
+}
+
+AccessibleDescription TolvaCommand::Describe() const
+{
+    return { .name = AccessibleName(m_caption, m_site),
+        .role = AccessibleRole::PushButton,
+        .state = AccessibleStateOf(m_surface, m_mouse, true),
+        .value = {},
+        .shortcut = AccessKeyShortcut(m_caption),
+        .defaultAction = m_style == tkStyle::tkMenu ? u"Open" : u"Press" };
+}
+
+bool TolvaCommand::DoDefaultAction()
+{
+    if (!m_surface.Enabled())
+        return false;
+    ClickForwarding::Click(m_mouse, *this);
+    return true;
 }
 
 void TolvaCommand::OnGotFocus()

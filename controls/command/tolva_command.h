@@ -1,4 +1,5 @@
 #pragma once
+#include "core/accessibility.h"
 #include "controls/command/tolva_command_events.h"
 #include "core/caption.h"
 #include "core/click_forwarding.h"
@@ -24,7 +25,10 @@ enum : int32_t { tkLeft = 0, tkCenter = 1 };
 // A flat push button: a one-pixel black frame, a background that follows the mouse, a caption
 // with an optional access key, focus and default marks, and in menu style a drop-down mark and
 // a pop-up menu of its parent form under it.
-class TolvaCommand final : public DelegatedProperties<TolvaCommand>, private SurfaceListener, private ClickTarget {
+class TolvaCommand final : public DelegatedProperties<TolvaCommand>,
+                           public AccessibleControl,
+                           private SurfaceListener,
+                           private ClickTarget {
 public:
     TolvaCommand(Surface& surface, ControlSite& site);
     ~TolvaCommand() override;
@@ -60,6 +64,11 @@ public:
     // Methods.
     void Refresh();
     void AboutBox();
+
+    // A push button whose action is "Press", or "Open" in menu style; the action clicks as the
+    // access key does.
+    AccessibleDescription Describe() const override;
+    bool DoDefaultAction() override;
 
     // Transient state, for the platform and tests.
     const MouseState& Mouse() const { return m_mouse; }

@@ -217,6 +217,30 @@ void TolvaLabel::Repaint()
     DrawLabel();
 }
 
+bool TolvaLabel::IsLink() const
+{
+    return m_arrowPosition != tkArrowPosition::tkNone || !m_menuName.empty();
+}
+
+AccessibleDescription TolvaLabel::Describe() const
+{
+    const bool link = IsLink();
+    return { .name = AccessibleName(m_caption, m_site),
+        .role = link ? AccessibleRole::Link : AccessibleRole::StaticText,
+        .state = AccessibleStateOf(m_surface, m_mouse, false),
+        .value = {},
+        .shortcut = AccessKeyShortcut(m_caption),
+        .defaultAction = link ? u"Jump" : u"" };
+}
+
+bool TolvaLabel::DoDefaultAction()
+{
+    if (!IsLink() || !m_surface.Enabled())
+        return false;
+    ClickForwarding::Click(m_mouse, *this);
+    return true;
+}
+
 void TolvaLabel::Clicked()
 {
     m_events->Click();

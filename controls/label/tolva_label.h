@@ -1,4 +1,5 @@
 #pragma once
+#include "core/accessibility.h"
 #include "controls/label/tolva_label_enums.h"
 #include "controls/label/tolva_label_events.h"
 #include "core/click_forwarding.h"
@@ -15,7 +16,10 @@ namespace tolva {
 // A caption that behaves like a link or a small flat button: hot and pushed colours, an optional
 // arrow or pointer glyph, letter spacing, an inset border, and a pop-up menu of its parent form
 // placed by the direction of its arrow. It takes no keyboard input.
-class TolvaLabel final : public DelegatedBackColor<TolvaLabel>, private SurfaceListener, private ClickTarget {
+class TolvaLabel final : public DelegatedBackColor<TolvaLabel>,
+                         public AccessibleControl,
+                         private SurfaceListener,
+                         private ClickTarget {
 public:
     TolvaLabel(Surface& surface, ControlSite& site);
     ~TolvaLabel() override;
@@ -61,6 +65,11 @@ public:
     void Refresh();
     void AboutBox();
 
+    // A label with an arrow or a menu is a link whose action "Jump" clicks it; any other is
+    // static text without an action.
+    AccessibleDescription Describe() const override;
+    bool DoDefaultAction() override;
+
     // Transient state, for the platform and tests.
     const MouseState& Mouse() const { return m_mouse; }
 
@@ -90,6 +99,7 @@ private:
     // The shared mouse steps.
     void Repaint() override;
     void Clicked() override;
+    bool IsLink() const;
     MouseEvents& Events() override { return *m_events; }
 
     void PropertyChanged(StringView key);

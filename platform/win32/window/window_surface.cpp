@@ -533,6 +533,11 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
             m_owner->OnSurfaceFocus(false);
         return 0;
     }
+    case WM_GETOBJECT:
+        if (LONG(lParam) == OBJID_CLIENT && m_owner)
+            if (const LRESULT answer = m_owner->AccessibleClient(wParam))
+                return answer;
+        return DefWindowProcW(window, message, wParam, lParam);
     case WM_SIZE:
         OnSizeMessage(window);
         return 0;

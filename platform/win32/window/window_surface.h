@@ -28,6 +28,9 @@ public:
         virtual void OnAccessKeysChanged() { }
         // A windowless surface asked for a repaint: the container should draw it again.
         virtual void OnViewChanged() { }
+        // WM_GETOBJECT for the client area: the LresultFromObject of the control's IAccessible,
+        // or 0 to leave the window to the system's standard object.
+        virtual LRESULT AccessibleClient(WPARAM /*wParam*/) { return 0; }
 
     protected:
         ~Owner() = default;

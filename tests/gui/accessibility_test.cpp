@@ -1,0 +1,139 @@
+#include "platform/win32/com/bstr.h"
+#include "tests/gui/hosted_form.h"
+#include "tests/win32/support/dispatch_helpers.h"
+#include <gtest/gtest.h>
+#include <oleacc.h>
+
+namespace tolva::win32 {
+namespace {
+
+using test::HostedForm;
+using Lines = std::vector<std::string>;
+
+constexpr std::string_view ButtonAndLink = R"(Begin VB.Form frmAccess
+   ClientWidth     =   4500
+   ClientHeight    =   1500
+   Begin TolvaKit.TolvaCommand cmdSave
+      Left            =   150
+      Top             =   300
+      Width           =   1500
+      Height          =   450
+      TabIndex        =   0
+      Caption         =   "&Save"
+   End
+   Begin TolvaKit.TolvaLabel lblMore
+      Left            =   1800
+      Top             =   300
+      Width           =   1500
+      Height          =   300
+      Caption         =   "More"
+      ArrowPosition   =   2
+   End
+End
+)";
+
+struct Reading {
+    std::wstring name;
+    LONG role = 0;
+    LONG state = 0;
+    std::wstring shortcut;
+    std::wstring action;
+    RECT location {};
+    bool operator==(const Reading&) const = default;
+};
+
+template <class Getter> std::wstring TextOf(Getter get)
+{
+    Bstr text;
+    return SUCCEEDED(get(text.Put())) && text.Get() ? std::wstring(text.Get()) : std::wstring();
+}
+
+// Everything a screen reader reads of the control's client object.
+Reading Read(IAccessible& object)
+{
+    VARIANT self;
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    Reading reading;
+    reading.name = TextOf([&](BSTR* out) { return object.get_accName(self, out); });
+    reading.shortcut = TextOf([&](BSTR* out) { return object.get_accKeyboardShortcut(self, out); });
+    reading.action = TextOf([&](BSTR* out) { return object.get_accDefaultAction(self, out); });
+    VARIANT value;
+    if (SUCCEEDED(object.get_accRole(self, &value)))
+        reading.role = value.lVal;
+    if (SUCCEEDED(object.get_accState(self, &value)))
+        reading.state = value.lVal;
+    long left = 0, top = 0, width = 0, height = 0;
+    object.accLocation(&left, &top, &width, &height, self);
+    reading.location = { left, top, left + width, top + height };
+    return reading;
+}
+
+RECT ScreenRect(HWND window)
+{
+    RECT rect {};
+    GetWindowRect(window, &rect);
+    return rect;
+}
+
+class Accessibility : public testing::Test {
+protected:
+    ComPtr<IAccessible> ClientObject(StringView control)
+    {
+        ComPtr<IAccessible> object;
+        EXPECT_EQ(AccessibleObjectFromWindow(hosted.Window(control), OBJID_CLIENT, IID_IAccessible, object.PutVoid()),
+            S_OK);
+        return object;
+    }
+
+    HostedForm hosted { ButtonAndLink };
+};
+
+TEST_F(Accessibility, EachControlReadsAsItLooks)
+{
+    const auto button = ClientObject(u"cmdSave");
+    const auto link = ClientObject(u"lblMore");
+    ASSERT_TRUE(button && link);
+    const LONG buttonState = STATE_SYSTEM_FOCUSABLE | (GetFocus() == hosted.Window(u"cmdSave") ? STATE_SYSTEM_FOCUSED : 0);
+    EXPECT_EQ(Read(*button),
+        (Reading { L"Save", ROLE_SYSTEM_PUSHBUTTON, buttonState, L"Alt+S", L"Press", ScreenRect(hosted.Window(u"cmdSave")) }));
+    EXPECT_EQ(Read(*link), (Reading { L"More", ROLE_SYSTEM_LINK, 0, L"", L"Jump", ScreenRect(hosted.Window(u"lblMore")) }));
+
+    test::Put(hosted.Control(u"cmdSave").Extender(), L"Enabled", test::Bool(false));
+    EXPECT_TRUE(Read(*button).state & STATE_SYSTEM_UNAVAILABLE);
+}
+
+TEST_F(Accessibility, TheParentIsTheStandardWindowObject)
+{
+    const auto button = ClientObject(u"cmdSave");
+    ASSERT_TRUE(button);
+    ComPtr<IDispatch> parent;
+    ASSERT_EQ(button->get_accParent(parent.Put()), S_OK);
+    auto window = parent.As<IAccessible>(IID_IAccessible);
+    ASSERT_TRUE(window);
+    VARIANT self;
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    VARIANT role;
+    ASSERT_EQ(window->get_accRole(self, &role), S_OK);
+    EXPECT_EQ(role.lVal, ROLE_SYSTEM_WINDOW);
+}
+
+TEST_F(Accessibility, TheDefaultActionClicks)
+{
+    VARIANT self;
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    hosted.Take();
+    ASSERT_EQ(ClientObject(u"cmdSave")->accDoDefaultAction(self), S_OK);
+    ASSERT_EQ(ClientObject(u"lblMore")->accDoDefaultAction(self), S_OK);
+    EXPECT_EQ(hosted.Take(),
+        (Lines { "cmdSave_Click", "cmdSave_MouseUp 1, 0, 0, 0", "lblMore_Click", "lblMore_MouseUp 1, 0, 0, 0" }));
+
+    test::Put(hosted.Control(u"cmdSave").Extender(), L"Enabled", test::Bool(false));
+    EXPECT_EQ(ClientObject(u"cmdSave")->accDoDefaultAction(self), DISP_E_MEMBERNOTFOUND);
+    EXPECT_TRUE(hosted.Take().empty());
+}
+
+} // namespace
+} // namespace tolva::win32
