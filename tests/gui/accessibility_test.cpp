@@ -1,6 +1,7 @@
 #include "platform/win32/com/bstr.h"
 #include "tests/gui/hosted_form.h"
 #include "tests/win32/support/dispatch_helpers.h"
+#include <array>
 #include <gtest/gtest.h>
 #include <oleacc.h>
 
@@ -38,9 +39,16 @@ struct Reading {
     LONG state = 0;
     std::wstring shortcut;
     std::wstring action;
-    RECT location {};
+    std::array<long, 4> location {}; // left, top, right, bottom in screen pixels
     bool operator==(const Reading&) const = default;
 };
+
+void PrintTo(const Reading& r, std::ostream* out)
+{
+    *out << ToUtf8(FromWide(r.name)) << " role " << r.role << " state " << r.state << " " << ToUtf8(FromWide(r.shortcut))
+         << " " << ToUtf8(FromWide(r.action)) << " at " << r.location[0] << "," << r.location[1] << "-" << r.location[2]
+         << "," << r.location[3];
+}
 
 template <class Getter> std::wstring TextOf(Getter get)
 {
@@ -69,11 +77,11 @@ Reading Read(IAccessible& object)
     return reading;
 }
 
-RECT ScreenRect(HWND window)
+std::array<long, 4> ScreenRect(HWND window)
 {
     RECT rect {};
     GetWindowRect(window, &rect);
-    return rect;
+    return { rect.left, rect.top, rect.right, rect.bottom };
 }
 
 class Accessibility : public testing::Test {
@@ -95,12 +103,12 @@ TEST_F(Accessibility, EachControlReadsAsItLooks)
     const auto link = ClientObject(u"lblMore");
     ASSERT_TRUE(button && link);
     const LONG buttonState = STATE_SYSTEM_FOCUSABLE | (GetFocus() == hosted.Window(u"cmdSave") ? STATE_SYSTEM_FOCUSED : 0);
-    EXPECT_EQ(Read(*button),
+    EXPECT_EQ(Read(*button.Get()),
         (Reading { L"Save", ROLE_SYSTEM_PUSHBUTTON, buttonState, L"Alt+S", L"Press", ScreenRect(hosted.Window(u"cmdSave")) }));
-    EXPECT_EQ(Read(*link), (Reading { L"More", ROLE_SYSTEM_LINK, 0, L"", L"Jump", ScreenRect(hosted.Window(u"lblMore")) }));
+    EXPECT_EQ(Read(*link.Get()), (Reading { L"More", ROLE_SYSTEM_LINK, 0, L"", L"Jump", ScreenRect(hosted.Window(u"lblMore")) }));
 
     test::Put(hosted.Control(u"cmdSave").Extender(), L"Enabled", test::Bool(false));
-    EXPECT_TRUE(Read(*button).state & STATE_SYSTEM_UNAVAILABLE);
+    EXPECT_TRUE(Read(*button.Get()).state & STATE_SYSTEM_UNAVAILABLE);
 }
 
 TEST_F(Accessibility, TheParentIsTheStandardWindowObject)

@@ -1,5 +1,5 @@
 # Fails unless every DLL that ${DLL} imports is one that ships with Windows.
-set(SYSTEM_DLLS ADVAPI32.dll KERNEL32.dll msvcrt.dll ole32.dll OLEAUT32.dll USER32.dll GDI32.dll)
+set(SYSTEM_DLLS ADVAPI32.dll KERNEL32.dll msvcrt.dll ole32.dll OLEAUT32.dll OLEACC.dll USER32.dll GDI32.dll)
 execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE dump RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${OBJDUMP} failed on ${DLL}")
