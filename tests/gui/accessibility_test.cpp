@@ -89,7 +89,7 @@ protected:
     ComPtr<IAccessible> ClientObject(StringView control)
     {
         ComPtr<IAccessible> object;
-        EXPECT_EQ(AccessibleObjectFromWindow(hosted.Window(control), OBJID_CLIENT, IID_IAccessible, object.PutVoid()),
+        EXPECT_EQ(AccessibleObjectFromWindow(hosted.Window(control), OBJID_CLIENT, __uuidof(IAccessible), object.PutVoid()),
             S_OK);
         return object;
     }
@@ -117,7 +117,7 @@ TEST_F(Accessibility, TheParentIsTheStandardWindowObject)
     ASSERT_TRUE(button);
     ComPtr<IDispatch> parent;
     ASSERT_EQ(button->get_accParent(parent.Put()), S_OK);
-    auto window = parent.As<IAccessible>(IID_IAccessible);
+    auto window = parent.As<IAccessible>(__uuidof(IAccessible));
     ASSERT_TRUE(window);
     VARIANT self;
     self.vt = VT_I4;
@@ -132,14 +132,17 @@ TEST_F(Accessibility, TheDefaultActionClicks)
     VARIANT self;
     self.vt = VT_I4;
     self.lVal = CHILDID_SELF;
+    const auto button = ClientObject(u"cmdSave");
+    const auto link = ClientObject(u"lblMore");
+    ASSERT_TRUE(button && link);
     hosted.Take();
-    ASSERT_EQ(ClientObject(u"cmdSave")->accDoDefaultAction(self), S_OK);
-    ASSERT_EQ(ClientObject(u"lblMore")->accDoDefaultAction(self), S_OK);
+    ASSERT_EQ(button->accDoDefaultAction(self), S_OK);
+    ASSERT_EQ(link->accDoDefaultAction(self), S_OK);
     EXPECT_EQ(hosted.Take(),
         (Lines { "cmdSave_Click", "cmdSave_MouseUp 1, 0, 0, 0", "lblMore_Click", "lblMore_MouseUp 1, 0, 0, 0" }));
 
     test::Put(hosted.Control(u"cmdSave").Extender(), L"Enabled", test::Bool(false));
-    EXPECT_EQ(ClientObject(u"cmdSave")->accDoDefaultAction(self), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(button->accDoDefaultAction(self), DISP_E_MEMBERNOTFOUND);
     EXPECT_TRUE(hosted.Take().empty());
 }
 

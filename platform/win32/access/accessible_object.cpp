@@ -57,18 +57,20 @@ AccessibleObject::AccessibleObject(IUnknown& keepAlive, WindowSurface& surface, 
     , m_control(control)
 { }
 
+// MinGW's import library gives IID_IAccessible as a thunk into oleacc rather than the GUID, so
+// the interface's id comes from its declaration.
 LRESULT AccessibleObject::Answer(IUnknown& keepAlive, WindowSurface& surface, AccessibleControl& control, WPARAM wParam)
 {
     auto object = ComPtr<IAccessible>::Adopt(new (std::nothrow) AccessibleObject(keepAlive, surface, control));
     if (!object)
         return 0;
-    const LRESULT result = LresultFromObject(IID_IAccessible, wParam, object.Get());
+    const LRESULT result = LresultFromObject(__uuidof(IAccessible), wParam, object.Get());
     return FAILED(result) ? 0 : result;
 }
 
 void* AccessibleObject::Find(REFIID iid)
 {
-    if (iid == IID_IDispatch || iid == IID_IAccessible)
+    if (iid == IID_IDispatch || iid == __uuidof(IAccessible))
         return static_cast<IAccessible*>(this);
     return nullptr;
 }
@@ -79,7 +81,7 @@ template <class Body> HRESULT AccessibleObject::ForSelf(const VARIANT& child, Bo
         return E_INVALIDARG;
     if (!m_surface.Window())
         return CO_E_OBJNOTCONNECTED;
-    return Guarded(IID_IAccessible, std::forward<Body>(body));
+    return Guarded(__uuidof(IAccessible), std::forward<Body>(body));
 }
 
 HRESULT AccessibleObject::Text(const VARIANT& child, BSTR* out, String AccessibleDescription::*member)
