@@ -1,5 +1,6 @@
 #include "core/accessibility.h"
 #include "core/caption.h"
+#include <cmath>
 
 namespace tolva {
 
@@ -31,6 +32,28 @@ uint32_t AccessibleStateOf(const Surface& surface, const MouseState& mouse, bool
     if (!surface.Enabled())
         state |= AccessibleState::Unavailable;
     return state;
+}
+
+uint32_t SelectableItemState(const Surface& surface, bool selected)
+{
+    uint32_t state = AccessibleState::Selectable;
+    if (selected)
+        state |= AccessibleState::Selected;
+    if (!surface.Enabled())
+        state |= AccessibleState::Unavailable;
+    return state;
+}
+
+uint32_t DropDownState(bool open)
+{
+    return open ? AccessibleState::Expanded : AccessibleState::Collapsed;
+}
+
+Rect PixelRectOf(const Surface& surface, double left, double top, double width, double height)
+{
+    const double x = surface.TwipsPerPixelX(), y = surface.TwipsPerPixelY();
+    const auto pixels = [](double twips, double perPixel) { return int32_t(std::lround(twips / perPixel)); };
+    return { pixels(left, x), pixels(top, y), pixels(left + width, x), pixels(top + height, y) };
 }
 
 } // namespace tolva

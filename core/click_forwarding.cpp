@@ -1,17 +1,33 @@
 #include "core/click_forwarding.h"
+#include "core/accessibility.h"
 
 namespace tolva::ClickForwarding {
 
 namespace {
+
 constexpr int16_t LeftButton = 1;
+
+// The pushed look is the pressed state a screen reader follows.
+void SetPushed(Surface& surface, MouseState& state, bool pushed)
+{
+    const bool changed = state.pushed != pushed;
+    state.pushed = pushed;
+    if (changed)
+        surface.Announce(AccessibleEvent::StateChange, AccessibleElement::None);
 }
 
-void MouseDown(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
+} // namespace
+
+void Press(Surface& surface, MouseState& state, ClickTarget& target)
 {
-    if (button == LeftButton) {
-        state.pushed = true;
-        target.Repaint();
-    }
+    SetPushed(surface, state, true);
+    target.Repaint();
+}
+
+void MouseDown(Surface& surface, MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
+{
+    if (button == LeftButton)
+        Press(surface, state, target);
     target.Events().MouseDown(button, shift, x, y);
 }
 
@@ -23,10 +39,10 @@ void MouseMove(
     target.Events().MouseMove(button, shift, x, y);
 }
 
-void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
+void MouseUp(Surface& surface, MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y)
 {
     if (button == LeftButton) {
-        state.pushed = false;
+        SetPushed(surface, state, false);
         state.hot = false;
         target.Repaint();
         target.Clicked();
@@ -34,9 +50,9 @@ void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shi
     target.Events().MouseUp(button, shift, x, y);
 }
 
-void Click(MouseState& state, ClickTarget& target)
+void Click(Surface& surface, MouseState& state, ClickTarget& target)
 {
-    MouseUp(state, target, LeftButton, 0, 0, 0);
+    MouseUp(surface, state, target, LeftButton, 0, 0, 0);
 }
 
 } // namespace tolva::ClickForwarding

@@ -23,8 +23,11 @@ protected:
 // Nothing here holds state across a raised event, so handlers may call back into the control.
 namespace ClickForwarding {
 
-// A left press shows the pushed look; every button is then forwarded as MouseDown.
-void MouseDown(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
+// Shows the pushed look, a change of the pressed state for screen readers.
+void Press(Surface& surface, MouseState& state, ClickTarget& target);
+
+// A left press shows the pushed look (Press); every button is then forwarded as MouseDown.
+void MouseDown(Surface& surface, MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
 
 // The hover test and a repaint on every move, hot or not, then MouseMove.
 void MouseMove(
@@ -32,11 +35,11 @@ void MouseMove(
 
 // A left release clears both looks, repaints and clicks wherever the pointer is now (a press
 // dragged off the control still clicks); every button is then forwarded as MouseUp.
-void MouseUp(MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
+void MouseUp(Surface& surface, MouseState& state, ClickTarget& target, int16_t button, int16_t shift, float x, float y);
 
 // A click without the mouse (an access key, a screen reader's default action): a left release
 // at the top-left corner.
-void Click(MouseState& state, ClickTarget& target);
+void Click(Surface& surface, MouseState& state, ClickTarget& target);
 
 } // namespace ClickForwarding
 

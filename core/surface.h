@@ -11,6 +11,9 @@
 
 namespace tolva {
 
+class AccessibleElement;
+enum class AccessibleEvent;
+
 // The notifications a platform delivers to the control that owns a surface. Mouse coordinates
 // are twips in the surface's own scale. Key arguments are references: a handler may change them.
 class SurfaceListener {
@@ -99,6 +102,11 @@ public:
     virtual std::unique_ptr<Surface> CreateChild() = 0;
     virtual std::unique_ptr<TextBox> CreateTextBox() = 0;
     virtual std::unique_ptr<Timer> CreateTimer() = 0;
+
+    // Screen readers: the element they read for this window (null: the platform's own reading),
+    // and the events they follow, about the element itself (item -1) or one of its items.
+    virtual void SetAccessible(AccessibleElement* element) = 0;
+    virtual void Announce(AccessibleEvent event, int32_t item) = 0;
 };
 
 } // namespace tolva

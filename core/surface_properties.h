@@ -37,6 +37,8 @@ public:
     void SetVisible(bool visible) override { m_visible = visible; }
     String AccessKeys() const override { return m_accessKeys; }
     void SetAccessKeys(StringView keys) override { m_accessKeys = keys; }
+    void SetAccessible(AccessibleElement* element) override { m_accessible = element; }
+    AccessibleElement* Accessible() const { return m_accessible; }
 
 protected:
     SurfaceProperties() = default;
@@ -63,6 +65,7 @@ private:
     int16_t m_appearance = SurfaceAppearance::ThreeD;
     bool m_visible = true;
     String m_accessKeys;
+    AccessibleElement* m_accessible = nullptr;
 };
 
 } // namespace tolva

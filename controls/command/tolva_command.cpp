@@ -151,7 +151,7 @@ void TolvaCommand::OnDblClick()
 
 void TolvaCommand::OnMouseDown(int16_t button, int16_t shift, float x, float y)
 {
-    ClickForwarding::MouseDown(m_mouse, *this, button, shift, x, y);
+    ClickForwarding::MouseDown(m_surface, m_mouse, *this, button, shift, x, y);
 }
 
 void TolvaCommand::OnMouseMove(int16_t button, int16_t shift, float x, float y)
@@ -161,7 +161,7 @@ void TolvaCommand::OnMouseMove(int16_t button, int16_t shift, float x, float y)
 
 void TolvaCommand::OnMouseUp(int16_t button, int16_t shift, float x, float y)
 {
-    ClickForwarding::MouseUp(m_mouse, *this, button, shift, x, y);
+    ClickForwarding::MouseUp(m_surface, m_mouse, *this, button, shift, x, y);
 }
 
 // Enter clicks at once, without the pushed look or the menu; Space presses and releases the
@@ -171,7 +171,7 @@ void TolvaCommand::OnKeyDown(int16_t& keyCode, int16_t& shift)
     if (keyCode == KeyReturn)
         m_events->Click();
     else if (keyCode == KeySpace)
-        ClickForwarding::MouseDown(m_mouse, *this, LeftButton, 0, 0, 0);
+        ClickForwarding::MouseDown(m_surface, m_mouse, *this, LeftButton, 0, 0, 0);
     m_events->KeyDown(keyCode, shift);
 }
 
@@ -183,14 +183,14 @@ void TolvaCommand::OnKeyPress(int16_t& keyAscii)
 void TolvaCommand::OnKeyUp(int16_t& keyCode, int16_t& shift)
 {
     if (keyCode == KeySpace)
-        ClickForwarding::Click(m_mouse, *this);
+        ClickForwarding::Click(m_surface, m_mouse, *this);
     m_events->KeyUp(keyCode, shift);
 }
 
 // Alt with the access character is a left-button release at (0, 0): Click, menu, MouseUp.
 void TolvaCommand::OnAccessKeyPress(char16_t)
 {
-    ClickForwarding::Click(m_mouse, *this);
+    ClickForwarding::Click(m_surface, m_mouse, *this);
 }
 
 AccessibleDescription TolvaCommand::Describe() const
@@ -200,14 +200,15 @@ AccessibleDescription TolvaCommand::Describe() const
         .state = AccessibleStateOf(m_surface, m_mouse, true),
         .value = {},
         .shortcut = AccessKeyShortcut(m_caption),
-        .defaultAction = m_style == tkStyle::tkMenu ? u"Open" : u"Press" };
+        .defaultAction = m_style == tkStyle::tkMenu ? u"Open" : u"Press",
+        .location = {} };
 }
 
 bool TolvaCommand::DoDefaultAction()
 {
     if (!m_surface.Enabled())
         return false;
-    ClickForwarding::Click(m_mouse, *this);
+    ClickForwarding::Click(m_surface, m_mouse, *this);
     return true;
 }
 
@@ -215,6 +216,7 @@ void TolvaCommand::OnGotFocus()
 {
     m_hasFocus = true;
     DrawButton();
+    m_surface.Announce(AccessibleEvent::Focus, AccessibleElement::None);
 }
 
 void TolvaCommand::OnLostFocus()

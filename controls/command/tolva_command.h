@@ -26,7 +26,7 @@ enum : int32_t { tkLeft = 0, tkCenter = 1 };
 // with an optional access key, focus and default marks, and in menu style a drop-down mark and
 // a pop-up menu of its parent form under it.
 class TolvaCommand final : public DelegatedProperties<TolvaCommand>,
-                           public AccessibleControl,
+                           public AccessibleElement,
                            private SurfaceListener,
                            private ClickTarget {
 public:
@@ -129,6 +129,7 @@ private:
     int32_t m_style = tkStyle::tkNormal;
     bool m_hasFocus = false;
     MouseState m_mouse;
+    AccessibleRegistration m_accessible { m_surface, *this };
 };
 
 } // namespace tolva

@@ -325,6 +325,7 @@ void TolvaInput::SetFormatString(StringView format)
 // txtInput's events. KeyDown comes after the control's own keys, with the key they left.
 void TolvaInput::TextEvents::OnChange()
 {
+    m_owner.m_surface.Announce(AccessibleEvent::ValueChange, None);
     m_owner.m_events->Change();
 }
 

@@ -2,6 +2,7 @@
 #include "controls/input/calculator_state.h"
 #include "controls/input/tolva_input_enums.h"
 #include "controls/input/tolva_input_events.h"
+#include "core/accessibility.h"
 #include "core/click_forwarding.h"
 #include "core/control_site.h"
 #include "core/input_popup.h"
@@ -25,7 +26,7 @@ class Formatter;
 // formatted into the text; typing is never reformatted.
 //
 // The control has the sunken border of a text box; its inner size is the surface's scale.
-class TolvaInput final : private SurfaceListener, private ClickTarget, public PopupOwner {
+class TolvaInput final : public AccessibleElement, private SurfaceListener, private ClickTarget, public PopupOwner {
 public:
     TolvaInput(Surface& surface, ControlSite& site);
     ~TolvaInput() override;
@@ -88,6 +89,12 @@ public:
     const String& FormatString() const { return m_formatString; }
     void SetFormatString(StringView format);
 
+    // Editable text named after its extender, whose value is the text; read-only while Locked.
+    // With a drop-down it is collapsed or expanded, and its default action "Open" (or "Close")
+    // clicks the drop-down button.
+    AccessibleDescription Describe() const override;
+    bool DoDefaultAction() override;
+
     // Transient state, for the platform and tests.
     const MouseState& Mouse() const { return m_mouse; }
     const CalculatorState& Calculator() const { return m_calc; }
@@ -147,6 +154,11 @@ private:
     void PlacePopup(InputPopup& popup);
     void PreparePopup(InputPopup& popup);
     void UnloadPopups();
+    bool HasDropDown() const;
+    // The pop-up of the style shows, opened by this control.
+    bool DropDownOpen() const;
+    // Tells screen readers when the drop-down opened or closed since they last heard.
+    void AnnounceDropDown();
     float BlankHeight();
 
     void CalendarCallback();
@@ -175,6 +187,8 @@ private:
     bool m_initialised = false;
     MouseState m_mouse;
     CalculatorState m_calc;
+    bool m_announcedOpen = false;
+    AccessibleRegistration m_accessible { m_surface, *this };
 };
 
 } // namespace tolva

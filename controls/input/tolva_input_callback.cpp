@@ -48,6 +48,7 @@ void TolvaInput::PopupWindowCallback(String& param, Currency& value)
     }
     if (param == Cancel)
         m_txtInput->SetText(m_txtInput->Tag());
+    AnnounceDropDown();
 }
 
 // Whatever the message, the calendar's date becomes the text and the calendar goes.

@@ -104,9 +104,8 @@ void TolvaInput::OnMouseDown(int16_t button, int16_t shift, float x, float y)
 // A left press pushes the button and opens (or closes) the pop-up of the style.
 void TolvaInput::PressButton(int16_t shift, float x, float y)
 {
-    m_mouse.pushed = true;
-    DrawDropDownButton();
-    if (m_style == tkInputStyles::tkCalendar || m_style == tkInputStyles::tkCalculator || m_style == tkInputStyles::tkCombo)
+    ClickForwarding::Press(m_surface, m_mouse, *this);
+    if (HasDropDown())
         if (InputPopup* popup = m_site.Popups().Load(KindOfStyle(m_style)))
             ShowDropDown(*popup);
     int16_t button = LeftButton;
@@ -115,7 +114,7 @@ void TolvaInput::PressButton(int16_t shift, float x, float y)
 
 void TolvaInput::OnMouseUp(int16_t button, int16_t shift, float x, float y)
 {
-    ClickForwarding::MouseUp(m_mouse, *this, button, shift, x, y);
+    ClickForwarding::MouseUp(m_surface, m_mouse, *this, button, shift, x, y);
 }
 
 void TolvaInput::Clicked()
@@ -126,6 +125,7 @@ void TolvaInput::Clicked()
 // The focus belongs to the text box.
 void TolvaInput::OnGotFocus()
 {
+    m_surface.Announce(AccessibleEvent::Focus, None);
     m_txtInput->SetFocus();
 }
 
@@ -182,6 +182,7 @@ void TolvaInput::ShowDropDown(InputPopup& popup)
     PreparePopup(popup);
     popup.Setup();
     popup.Show();
+    AnnounceDropDown();
 }
 
 // Below the control, or above it where the screen ends; left-aligned with it, or right-aligned
@@ -238,6 +239,28 @@ void TolvaInput::PreparePopup(InputPopup& popup)
         return;
     }
     }
+}
+
+bool TolvaInput::HasDropDown() const
+{
+    return m_style == tkInputStyles::tkCalendar || m_style == tkInputStyles::tkCalculator || m_style == tkInputStyles::tkCombo;
+}
+
+bool TolvaInput::DropDownOpen() const
+{
+    if (!HasDropDown())
+        return false;
+    const InputPopup* popup = m_site.Popups().Loaded(KindOfStyle(m_style));
+    return popup && popup->Visible() && popup->Parent() == this;
+}
+
+void TolvaInput::AnnounceDropDown()
+{
+    const bool open = DropDownOpen();
+    if (open == m_announcedOpen)
+        return;
+    m_announcedOpen = open;
+    m_surface.Announce(AccessibleEvent::StateChange, None);
 }
 
 } // namespace tolva

@@ -198,7 +198,7 @@ void TolvaLabel::OnDblClick()
 
 void TolvaLabel::OnMouseDown(int16_t button, int16_t shift, float x, float y)
 {
-    ClickForwarding::MouseDown(m_mouse, *this, button, shift, x, y);
+    ClickForwarding::MouseDown(m_surface, m_mouse, *this, button, shift, x, y);
 }
 
 void TolvaLabel::OnMouseMove(int16_t button, int16_t shift, float x, float y)
@@ -208,7 +208,7 @@ void TolvaLabel::OnMouseMove(int16_t button, int16_t shift, float x, float y)
 
 void TolvaLabel::OnMouseUp(int16_t button, int16_t shift, float x, float y)
 {
-    ClickForwarding::MouseUp(m_mouse, *this, button, shift, x, y);
+    ClickForwarding::MouseUp(m_surface, m_mouse, *this, button, shift, x, y);
 }
 
 // The shared mouse steps.
@@ -230,14 +230,15 @@ AccessibleDescription TolvaLabel::Describe() const
         .state = AccessibleStateOf(m_surface, m_mouse, false),
         .value = {},
         .shortcut = AccessKeyShortcut(m_caption),
-        .defaultAction = link ? u"Jump" : u"" };
+        .defaultAction = link ? u"Jump" : u"",
+        .location = {} };
 }
 
 bool TolvaLabel::DoDefaultAction()
 {
     if (!IsLink() || !m_surface.Enabled())
         return false;
-    ClickForwarding::Click(m_mouse, *this);
+    ClickForwarding::Click(m_surface, m_mouse, *this);
     return true;
 }
 

@@ -17,7 +17,7 @@ namespace tolva {
 // arrow or pointer glyph, letter spacing, an inset border, and a pop-up menu of its parent form
 // placed by the direction of its arrow. It takes no keyboard input.
 class TolvaLabel final : public DelegatedBackColor<TolvaLabel>,
-                         public AccessibleControl,
+                         public AccessibleElement,
                          private SurfaceListener,
                          private ClickTarget {
 public:
@@ -125,6 +125,7 @@ private:
     String m_menuName;
     bool m_kerning = false;
     MouseState m_mouse;
+    AccessibleRegistration m_accessible { m_surface, *this };
 };
 
 } // namespace tolva

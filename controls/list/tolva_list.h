@@ -4,6 +4,7 @@
 #include "controls/list/tolva_list_enums.h"
 #include "controls/list/tolva_list_events.h"
 #include "controls/scroll/tolva_scroll.h"
+#include "core/accessibility.h"
 #include "core/control_site.h"
 #include "core/embedded_control.h"
 #include "core/indexed_array.h"
@@ -22,7 +23,7 @@ struct CanvasFont;
 // column: column c's items hold its texts in row order, and the hidden column 0 holds each row's
 // RowData. Only the rows on screen are ever drawn. The scroll bar tscList, embedded at the right
 // edge, is driven through its public members and followed through its Change and Scroll events.
-class TolvaList final : private SurfaceListener {
+class TolvaList final : public AccessibleElement, private SurfaceListener {
 public:
     TolvaList(Surface& surface, ControlSite& site);
     ~TolvaList() override;
@@ -123,6 +124,15 @@ public:
     int32_t HeaderHeight() const;
     int32_t VisibleRows() const;
 
+    // A list of one column reads as a list of list items; with more columns it is a table of rows
+    // whose cells are their items. Rows are made when asked for; the selected row is the value.
+    AccessibleDescription Describe() const override;
+    bool DoDefaultAction() override { return false; }
+    int32_t ChildCount() const override { return m_rowCount; }
+    std::unique_ptr<AccessibleElement> Child(int32_t index) override;
+    int32_t FocusedChild() const override;
+    int32_t SelectedChild() const override;
+
     // Storage held by the cells, for measurements.
     size_t CellMemoryBytes() const;
     // The embedded scroll bar, for the platform and tests.
@@ -163,6 +173,7 @@ private:
     void OnKeyDown(int16_t& keyCode, int16_t& shift) override;
     void OnKeyPress(int16_t& keyAscii) override;
     void OnKeyUp(int16_t& keyCode, int16_t& shift) override;
+    void OnGotFocus() override;
 
     // Model bookkeeping.
     tkRows& RowsOf(const Variant& column) const;
@@ -173,6 +184,8 @@ private:
     void UpdateScrollRange();
     void ShowHandler();
     void SelectRowAt(int16_t button, int16_t shift, float x, float y);
+    // The selected row takes the focus of a focused list, and is the selection.
+    void AnnounceSelection();
 
     // Drawing, in this order within RedrawList.
     void RedrawList();
@@ -236,6 +249,7 @@ private:
 
     ScrollEvents m_scrollEvents { *this }; // outlives the scroll bar that calls it
     EmbeddedControl<TolvaScroll> m_tscList;
+    AccessibleRegistration m_accessible { m_surface, *this };
 };
 
 } // namespace tolva

@@ -1,6 +1,7 @@
 #include "controls/scroll/tolva_scroll.h"
 #include "core/long_arithmetic.h"
 #include "core/memory_property_bag.h"
+#include "core/variant.h"
 #include <algorithm>
 
 namespace tolva {
@@ -205,8 +206,20 @@ void TolvaScroll::SetValue(int32_t value)
     }
     m_value = value;
     m_site.PropertyChanged(u"Value");
+    m_surface.Announce(AccessibleEvent::ValueChange, AccessibleElement::None);
     m_events->Change();
     PositionSlider();
+}
+
+AccessibleDescription TolvaScroll::Describe() const
+{
+    return { .name = m_site.ExtenderName(),
+        .role = AccessibleRole::ScrollBar,
+        .state = AccessibleStateOf(m_surface, MouseState {}, false),
+        .value = Variant(m_value).ToString(),
+        .shortcut = {},
+        .defaultAction = {},
+        .location = {} };
 }
 
 // Unlike every other setter, a bad Min is reported only at run time and ignored at design time.

@@ -2,6 +2,7 @@
 #include "controls/label/tolva_label.h"
 #include "controls/scroll/ctl_scroll_box.h"
 #include "controls/scroll/tolva_scroll_events.h"
+#include "core/accessibility.h"
 #include "core/control_site.h"
 #include "core/embedded_control.h"
 #include "core/property_bag.h"
@@ -15,7 +16,7 @@ namespace tolva {
 // A vertical scroll bar drawn from its parts: the arrow buttons tlUp and tlDown (labels), the
 // slider picSlider (a scroll box) on the track between them, and the repeat timer tmrScroll. The
 // value grows downwards. It talks to its parts only through their public members and events.
-class TolvaScroll final : private SurfaceListener {
+class TolvaScroll final : public AccessibleElement, private SurfaceListener {
 public:
     TolvaScroll(Surface& surface, ControlSite& site);
     ~TolvaScroll() override;
@@ -61,6 +62,10 @@ public:
     // Methods.
     void Refresh();
     void AboutBox();
+
+    // A scroll bar named after its extender, whose value is Value; it has no default action.
+    AccessibleDescription Describe() const override;
+    bool DoDefaultAction() override { return false; }
 
     static constexpr OleColor DefaultBackColor = 0xCEDBDE;
     static constexpr OleColor DefaultBackColorActive = 0xDEE7EF;
@@ -156,6 +161,7 @@ private:
     EmbeddedControl<TolvaLabel> m_tlDown;
     EmbeddedControl<ctlScrollBox> m_picSlider;
     std::unique_ptr<Timer> m_tmrScroll;
+    AccessibleRegistration m_accessible { m_surface, *this };
 };
 
 } // namespace tolva

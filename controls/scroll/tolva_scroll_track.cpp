@@ -241,8 +241,10 @@ void TolvaScroll::DragSlider(float y)
     const int32_t old = m_value;
     m_value = ValueAtSlider();
     PaintSurface();
-    if (m_value != old)
+    if (m_value != old) {
+        m_surface.Announce(AccessibleEvent::ValueChange, AccessibleElement::None);
         m_events->Scroll();
+    }
 }
 
 void TolvaScroll::EndDrag()

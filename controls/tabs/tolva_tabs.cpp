@@ -141,8 +141,11 @@ void TolvaTabs::SetSelectedItem(int32_t item)
     PropertyChanged(u"SelectedItem");
     bool cancel = false;
     m_events->Change(cancel);
-    if (!cancel)
+    if (!cancel) {
+        if (const int32_t tab = SelectedChild(); tab != None)
+            m_surface.Announce(AccessibleEvent::Selection, tab);
         return;
+    }
     m_selectedItem = old;
     PropertyChanged(u"SelectedItem");
 }

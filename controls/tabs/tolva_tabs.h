@@ -1,12 +1,14 @@
 #pragma once
 #include "controls/tabs/tab_store.h"
 #include "controls/tabs/tolva_tabs_events.h"
+#include "core/accessibility.h"
 #include "core/caption.h"
 #include "core/control_site.h"
 #include "core/ole_color.h"
 #include "core/property_bag.h"
 #include "core/surface.h"
 #include "core/twips_canvas.h"
+#include <algorithm>
 
 namespace tolva {
 
@@ -14,7 +16,7 @@ namespace tolva {
 // integer each and a selected tab; a press on a tab or its access key selects it, and the
 // container hears of it through Change, which may refuse it. The folder holds no pages: the
 // container shows its own controls for each tab.
-class TolvaTabs final : private SurfaceListener {
+class TolvaTabs final : public AccessibleElement, private SurfaceListener {
 public:
     TolvaTabs(Surface& surface, ControlSite& site);
     ~TolvaTabs() override;
@@ -65,6 +67,18 @@ public:
     void AddItem(StringView caption);
     void RemoveItem(int32_t index);
 
+    // A page tab list named after its extender, whose tabs are its items: page tabs named by
+    // their captions, selectable, with "Switch" as the default action that selects them.
+    AccessibleDescription Describe() const override;
+    bool DoDefaultAction() override { return false; }
+    int32_t ChildCount() const override { return std::max(m_tabCount, 0); }
+    std::unique_ptr<AccessibleElement> Child(int32_t index) override;
+    int32_t FocusedChild() const override;
+    int32_t SelectedChild() const override;
+
+    // The height of the row of tabs, twips.
+    float RowHeight();
+
     static constexpr int32_t DefaultTabWidth = 1700;
     static constexpr OleColor DefaultBackColorInactive = 0xCEDBDE;
     static constexpr OleColor DefaultBackColorBehind = 0xFFFFFF;
@@ -90,7 +104,7 @@ private:
     void PropertyChanged(StringView key);
     void SetTabCount(int32_t count);
     void SelectTabAt(float x, float y);
-    float RowHeight();
+    void OnGotFocus() override;
 
     void Redraw();
     void DrawTab(int32_t index, float x, float textHeight, const ScannedCaption& caption);
@@ -110,6 +124,7 @@ private:
     OleColor m_backColorInactive = DefaultBackColorInactive;
     OleColor m_backColorBehind = DefaultBackColorBehind;
     OleColor m_borderColor = DefaultBorderColor;
+    AccessibleRegistration m_accessible { m_surface, *this };
 };
 
 } // namespace tolva

@@ -1,7 +1,9 @@
 #pragma once
+#include "core/accessibility.h"
 #include "core/surface_properties.h"
 #include "platform/headless/raster_canvas.h"
 #include "platform/headless/window_tree.h"
+#include <utility>
 #include <vector>
 
 namespace tolva::headless {
@@ -41,6 +43,7 @@ public:
     std::unique_ptr<Surface> CreateChild() override;
     std::unique_ptr<TextBox> CreateTextBox() override; // a HeadlessTextBox
     std::unique_ptr<Timer> CreateTimer() override;
+    void Announce(AccessibleEvent event, int32_t item) override { m_announcements.push_back({ event, item }); }
 
     // Inspection.
     SurfaceListener* Listener() const { return m_listener; }
@@ -54,6 +57,13 @@ public:
     ColorRef WindowPixel(int32_t x, int32_t y) const { return m_window.Pixel(x, y); }
     int RefreshCount() const { return m_refreshes; }
     int PresentCount() const { return m_presents; }
+    // What a screen reader heard, oldest first; taking them empties the record.
+    struct Announcement {
+        AccessibleEvent event;
+        int32_t item;
+        bool operator==(const Announcement&) const = default;
+    };
+    std::vector<Announcement> TakeAnnouncements() { return std::exchange(m_announcements, {}); }
     // The client origin on the screen of a surface without parent; children add their offsets.
     void SetScreenOrigin(PixelPoint origin) { m_screenOrigin = origin; }
     // Makes a surface without parent a top-level pop-up window: placed on the screen by Move,
@@ -96,6 +106,7 @@ private:
     bool m_popupWindow = false;
     int m_refreshes = 0;
     int m_presents = 0;
+    std::vector<Announcement> m_announcements;
 };
 
 } // namespace tolva::headless

@@ -2,20 +2,31 @@
 #include "core/accessibility.h"
 #include "platform/win32/com/com_ptr.h"
 #include "platform/win32/com/untyped_dispatch.h"
-#include "platform/win32/window/window_surface.h"
+#include "platform/win32/windows_api.h"
+#include <memory>
 #include <oleacc.h>
 
 namespace tolva::win32 {
 
-// A control's IAccessible: what the core control describes, located at its window, with the
-// system's standard object of that window as parent. It holds the control's COM object, so the
-// control outlives it; once the window is gone every call answers "not connected".
+class WindowSurface;
+
+// What a window's accessible objects reach the control through: the surface and the element it
+// reads. The surface clears it when the element or the surface goes, so an object a screen
+// reader still holds answers "not connected" rather than reaching a control that is gone.
+struct AccessibleLink {
+    WindowSurface* surface = nullptr;
+    AccessibleElement* element = nullptr;
+};
+
+// The IAccessible of a control (item null) or of an item inside it, made when asked for. A
+// control's parent is the system's standard object of its window; an item's, the object that made
+// it. Children are addressed by child id (index + 1) or as objects of their own (get_accChild).
 class AccessibleObject final : public UntypedDispatch<IAccessible> {
 public:
-    AccessibleObject(IUnknown& keepAlive, WindowSurface& surface, AccessibleControl& control);
+    AccessibleObject(std::shared_ptr<AccessibleLink> link, std::unique_ptr<AccessibleElement> item, ComPtr<IDispatch> parent);
 
     // The answer to WM_GETOBJECT for the client area: a new object through LresultFromObject.
-    static LRESULT Answer(IUnknown& keepAlive, WindowSurface& surface, AccessibleControl& control, WPARAM wParam);
+    static LRESULT Answer(std::shared_ptr<AccessibleLink> link, WPARAM wParam);
 
     // IDispatch: screen readers call through the interface's table, not by name.
     HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override;
@@ -45,15 +56,21 @@ public:
 
 private:
     void* Find(REFIID iid) override;
-    // Runs body for the object itself (CHILDID_SELF) while its window exists; other children
-    // are refused with E_INVALIDARG.
-    template <class Body> HRESULT ForSelf(const VARIANT& child, Body&& body);
+    // The element this object reads; null once it or its control is gone.
+    AccessibleElement* Self() const;
+    HWND Window() const;
+    // Runs body(element, isControl) for the object itself (CHILDID_SELF) or one of its children,
+    // made for the call; an unknown child is refused with E_INVALIDARG.
+    template <class Body> HRESULT With(const VARIANT& child, Body&& body);
     // One of the description's texts; S_FALSE with no string when it is empty.
     HRESULT Text(const VARIANT& child, BSTR* out, String AccessibleDescription::*member);
 
-    ComPtr<IUnknown> m_keepAlive;
-    WindowSurface& m_surface;
-    AccessibleControl& m_control;
+    std::shared_ptr<AccessibleLink> m_link;
+    std::unique_ptr<AccessibleElement> m_item;
+    ComPtr<IDispatch> m_parent;
 };
+
+// Tells the system's event hooks about an event of the window's client object.
+void NotifyAccessibleEvent(HWND window, AccessibleEvent event, int32_t item);
 
 } // namespace tolva::win32

@@ -1,5 +1,4 @@
 #pragma once
-#include "core/accessibility.h"
 #include "core/control_site.h"
 #include "core/font.h"
 #include "core/property_bag.h"
@@ -26,9 +25,6 @@ public:
     virtual void SetFont(const Font& font) = 0;
 
     virtual void* Object() = 0; // the control, as the class the binding table was made for
-
-    // What the control tells a screen reader; null for a control that tells nothing yet.
-    virtual AccessibleControl* Accessible() = 0;
 };
 
 template <class Control>
@@ -70,14 +66,6 @@ public:
     }
 
     void* Object() override { return &m_control; }
-
-    AccessibleControl* Accessible() override
-    {
-        if constexpr (std::derived_from<Control, AccessibleControl>)
-            return &m_control;
-        else
-            return nullptr;
-    }
 
 private:
     std::optional<Forwarder> m_forwarder; // outlives the control, which may raise while dying

@@ -1,5 +1,4 @@
 #include "platform/win32/inplace/in_place_part.h"
-#include "platform/win32/access/accessible_object.h"
 #include "platform/win32/com/error_reporting.h"
 #include "platform/win32/inplace/view_object_part.h"
 
@@ -199,12 +198,6 @@ void InPlacePart::OnViewChanged()
 {
     if (auto* view = m_object.FindPart<ViewObjectPart>())
         view->NotifyViewChange();
-}
-
-LRESULT InPlacePart::AccessibleClient(WPARAM wParam)
-{
-    AccessibleControl* control = m_object.Control().Accessible();
-    return control ? AccessibleObject::Answer(m_object, Surface(), *control, wParam) : 0;
 }
 
 } // namespace tolva::win32

@@ -43,7 +43,6 @@ private:
     void OnSurfaceFocus(bool gotFocus) override;
     void OnAccessKeysChanged() override;
     void OnViewChanged() override;
-    LRESULT AccessibleClient(WPARAM wParam) override;
 
     ComPtr<IOleInPlaceSite> m_inPlaceSite;
     ComPtr<IOleInPlaceFrame> m_frame;

@@ -64,6 +64,8 @@ WindowSurface::WindowSurface(WindowSurface* parent)
 
 WindowSurface::~WindowSurface()
 {
+    if (m_accessibleLink)
+        *m_accessibleLink = {};
     DropKeepAlive();
     for (WindowSurface* child : m_children)
         child->m_parent = nullptr;
@@ -72,6 +74,19 @@ WindowSurface::~WindowSurface()
     if (m_parent)
         std::erase(m_parent->m_children, this);
     DestroyWindow();
+}
+
+void WindowSurface::SetAccessible(AccessibleElement* element)
+{
+    WindowlessSurface::SetAccessible(element);
+    if (m_accessibleLink)
+        m_accessibleLink->element = element;
+}
+
+void WindowSurface::Announce(AccessibleEvent event, int32_t item)
+{
+    if (m_window && Accessible())
+        NotifyAccessibleEvent(m_window, event, item);
 }
 
 void WindowSurface::DropKeepAlive()
@@ -534,9 +549,12 @@ LRESULT WindowSurface::HandleMessage(HWND window, UINT message, WPARAM wParam, L
         return 0;
     }
     case WM_GETOBJECT:
-        if (LONG(lParam) == OBJID_CLIENT && m_owner)
-            if (const LRESULT answer = m_owner->AccessibleClient(wParam))
+        if (LONG(lParam) == OBJID_CLIENT && Accessible()) {
+            if (!m_accessibleLink)
+                m_accessibleLink = std::make_shared<AccessibleLink>(AccessibleLink { this, Accessible() });
+            if (const LRESULT answer = AccessibleObject::Answer(m_accessibleLink, wParam))
                 return answer;
+        }
         return DefWindowProcW(window, message, wParam, lParam);
     case WM_SIZE:
         OnSizeMessage(window);

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/win32/access/accessible_object.h"
 #include "platform/win32/window/alt_key_state.h"
 #include "platform/win32/windowless/windowless_surface.h"
 #include "platform/win32/windows_api.h"
@@ -28,9 +29,6 @@ public:
         virtual void OnAccessKeysChanged() { }
         // A windowless surface asked for a repaint: the container should draw it again.
         virtual void OnViewChanged() { }
-        // WM_GETOBJECT for the client area: the LresultFromObject of the control's IAccessible,
-        // or 0 to leave the window to the system's standard object.
-        virtual LRESULT AccessibleClient(WPARAM /*wParam*/) { return 0; }
 
     protected:
         ~Owner() = default;
@@ -62,6 +60,11 @@ public:
     // Destroys the window and the children's; the surface stays usable without them.
     void DestroyWindow();
     HWND Window() const { return m_window; }
+
+    // The window's client object answers WM_GETOBJECT with the element's IAccessible; without
+    // an element the system's standard object answers. Events reach the system's hooks.
+    void SetAccessible(AccessibleElement* element) override;
+    void Announce(AccessibleEvent event, int32_t item) override;
 
     // Whether a click gives the window the keyboard focus (a button's does; an embedded part's
     // does not).
@@ -162,6 +165,7 @@ private:
     void EndRedirectTree();
 
     IUnknown* m_keepAlive = nullptr;
+    std::shared_ptr<AccessibleLink> m_accessibleLink; // made at the first WM_GETOBJECT
     AltKeyState m_altKey; // followed while the surface lives, for its mouse events
     WindowSurface* m_parent = nullptr;
     std::vector<WindowSurface*> m_children;

@@ -32,6 +32,8 @@ public:
     std::unique_ptr<Surface> CreateChild() override;
     std::unique_ptr<TextBox> CreateTextBox() override; // a model: there is no window to type in
     std::unique_ptr<Timer> CreateTimer() override;
+    // Without a window of its own there is nobody to tell.
+    void Announce(AccessibleEvent, int32_t) override { }
 
 private:
     IUnknown* m_owner;

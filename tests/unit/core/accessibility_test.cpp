@@ -1,16 +1,7 @@
 #include "tests/unit/command/command_test_fixture.h"
 #include "tests/unit/label/label_test_fixture.h"
+#include "tests/unit/support/accessible_printing.h"
 #include <functional>
-
-namespace tolva {
-
-void PrintTo(const AccessibleDescription& d, std::ostream* out)
-{
-    *out << ToUtf8(d.name) << " role " << int(d.role) << " state " << d.state << " value " << ToUtf8(d.value) << " "
-         << ToUtf8(d.shortcut) << " " << ToUtf8(d.defaultAction);
-}
-
-} // namespace tolva
 
 namespace tolva::testing {
 namespace {
@@ -27,23 +18,23 @@ TEST_F(CommandTest, DescribesItselfAsAPushButton)
 {
     const DescriptionCase cases[] = {
         { "access key", [](TolvaCommand& b, auto&) { b.SetCaption(u"Save && &close"); },
-            { u"Save & close", AccessibleRole::PushButton, Focusable, u"", u"Alt+C", u"Press" } },
+            { u"Save & close", AccessibleRole::PushButton, Focusable, u"", u"Alt+C", u"Press", {} } },
         { "empty caption names the extender", [](TolvaCommand& b, auto&) { b.SetCaption(u""); },
-            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable, u"", u"", u"Press" } },
+            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable, u"", u"", u"Press", {} } },
         { "menu style opens", [](TolvaCommand& b, auto&) { b.SetStyle(tkStyle::tkMenu); },
-            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable, u"", u"", u"Open" } },
+            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable, u"", u"", u"Open", {} } },
         { "focused and disabled",
             [](TolvaCommand& b, headless::HeadlessSurface& s) {
                 s.SetFocus();
                 b.SetEnabled(false);
             },
-            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable | Focused | Unavailable, u"", u"", u"Press" } },
+            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable | Focused | Unavailable, u"", u"", u"Press", {} } },
         { "hot and pressed under the mouse",
             [](TolvaCommand&, headless::HeadlessSurface& s) {
                 s.MouseMove(0, 0, 150, 150);
                 s.MouseDown(1, 0, 150, 150);
             },
-            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable | AccessibleState::Hot | Pressed, u"", u"", u"Press" } },
+            { u"TolvaCommand3", AccessibleRole::PushButton, Focusable | AccessibleState::Hot | Pressed, u"", u"", u"Press", {} } },
     };
     for (const DescriptionCase& c : cases) {
         SCOPED_TRACE(c.what);
@@ -72,6 +63,19 @@ TEST_F(CommandTest, DefaultActionClicksAndOpensTheMenuUnlessDisabled)
     EXPECT_TRUE(events.log.empty());
 }
 
+TEST_F(CommandTest, AnnouncesTheFocusAndEachChangeOfThePressedState)
+{
+    using enum AccessibleEvent;
+    constexpr int32_t Self = AccessibleElement::None;
+    surface.TakeAnnouncements();
+    surface.SetFocus();
+    surface.MouseDown(1, 0, 150, 150);
+    surface.MouseMove(1, 0, 300, 150);
+    surface.MouseUp(1, 0, 300, 150);
+    surface.MouseUp(2, 0, 300, 150);
+    EXPECT_EQ(surface.TakeAnnouncements(), (Heard { { Focus, Self }, { StateChange, Self }, { StateChange, Self } }));
+}
+
 } // namespace
 } // namespace tolva::testing
 
@@ -98,7 +102,7 @@ TEST_F(LabelTest, IsALinkByItsArrowOrMenuElseStaticText)
         label.SetArrowPosition(c.arrow);
         label.SetMenuName(c.menu);
         const AccessibleDescription description = label.Describe();
-        EXPECT_EQ(description, (AccessibleDescription { u"Customers", c.role, 0, u"", u"Alt+C", c.action }));
+        EXPECT_EQ(description, (AccessibleDescription { u"Customers", c.role, 0, u"", u"Alt+C", c.action, {} }));
         events.log.clear();
         EXPECT_EQ(label.DoDefaultAction(), !c.clicks.empty());
         EXPECT_EQ(events.log, c.clicks);
