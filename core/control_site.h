@@ -64,6 +64,12 @@ public:
 
     // The library's pop-up windows of this thread, shared by every control on it.
     virtual InputPopups& Popups() = 0;
+
+    // Keeps the control alive while the returned hold lives, though its client let go of it
+    // meanwhile. The host guards its own calls into the control; a call that comes from
+    // elsewhere (a pop-up answering its owner) and may reach client code takes a hold. Without
+    // a host object there is nothing to hold.
+    virtual std::shared_ptr<void> Hold() { return nullptr; }
 };
 
 } // namespace tolva

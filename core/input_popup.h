@@ -2,6 +2,7 @@
 #include "core/currency.h"
 #include "core/list_box.h"
 #include "core/ole_date.h"
+#include "core/rect.h"
 #include "core/string.h"
 #include <cstdint>
 #include <memory>
@@ -33,20 +34,29 @@ namespace tolva {
 //   list       "SELECT"  the highlighted item changed, its one-based number in value
 //              "CANCEL"  its cancel key
 //              ""        it lost activation
-// Losing activation means: hide itself, then call back with "". The owner unloads the
+// Losing activation means: hide itself, then call back with "" (after PopupClosedByPress when a
+// mouse press took the activation). The owner unloads the
 // calendar after any callback, the calculator after "=", the list after "CANCEL"; hiding the
 // owner unloads all three.
 //
 // Re-entrancy: the owner calls Hide, Unload and the data members from inside the pop-up's own
-// call of PopupWindowCallback, and events raised there may reach any code. A pop-up therefore
-// never destroys itself: Unload hides it and forgets its state, and the object stays for the
-// next Load. The owner tolerates a callback at any time, also after the pop-up was hidden.
+// call of PopupWindowCallback, and events raised there may reach any code, which may let go of
+// the owner. A pop-up therefore holds its owner (Hold) around each callback, and never destroys
+// itself: Unload hides it and forgets its state, and the object stays for the next Load. An
+// owner that goes unloads the pop-ups it owns, so none calls it afterwards. The owner tolerates
+// a callback at any time, also after the pop-up was hidden.
 class PopupOwner {
 public:
     // param and value are in/out, as a late-bound caller passes them.
     virtual void PopupWindowCallback(String& param, Currency& value) = 0;
     // Whether the list's highlight follows the mouse without a button held.
     virtual bool SelectionTracking() const = 0;
+    // Keeps the owner alive while the hold lives: a pop-up takes one around each callback.
+    virtual std::shared_ptr<void> Hold() = 0;
+    // The pop-up lost the activation to a mouse press at screen (pixels), told before the ""
+    // callback that follows: a press on the owner's own button has closed the pop-up already,
+    // as a second press would, and must not open it again when it arrives.
+    virtual void PopupClosedByPress(PixelPoint screen) = 0;
 
 protected:
     ~PopupOwner() = default;

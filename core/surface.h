@@ -8,6 +8,7 @@
 #include "core/timer.h"
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace tolva {
 
@@ -36,7 +37,9 @@ public:
     virtual void OnAccessKeyPress(char16_t /*key*/) {}
     virtual void OnGotFocus() {}
     virtual void OnLostFocus() {}
-    virtual void OnDeactivate() {} // a pop-up window is no longer the active window
+    // A pop-up window is no longer the active window. press: where on the screen (pixels) the
+    // mouse press went that took the activation, when a press did.
+    virtual void OnDeactivate(std::optional<PixelPoint> /*press*/) {}
 };
 
 // How a fixed single border looks, as a form designer's Appearance: flat, a one-pixel black

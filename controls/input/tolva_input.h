@@ -14,6 +14,7 @@
 #include "core/twips_canvas.h"
 #include "core/variant.h"
 #include <memory>
+#include <optional>
 
 namespace tolva {
 
@@ -138,6 +139,11 @@ private:
     void OnMouseUp(int16_t button, int16_t shift, float x, float y) override;
     void OnGotFocus() override;
 
+    // The pop-up protocol's other calls; see input_popup.h.
+    std::shared_ptr<void> Hold() override { return m_site.Hold(); }
+    void PopupClosedByPress(PixelPoint screen) override { m_closingPress = screen; }
+    bool ClosedPopup(float x, float y) const;
+
     // The control's own keys, before KeyDown is raised: the arrows of the list style, F4.
     void HandleKey(int16_t& keyCode);
 
@@ -149,7 +155,7 @@ private:
     void PropertyChanged(StringView key);
     void Layout();
     void DrawDropDownButton();
-    void PressButton(int16_t shift, float x, float y);
+    void PressButton(int16_t shift, float x, float y, bool closedPopup = false);
     void ShowDropDown(InputPopup& popup);
     void PlacePopup(InputPopup& popup);
     void PreparePopup(InputPopup& popup);
@@ -186,6 +192,9 @@ private:
     bool m_selectionTracking = false;
     bool m_initialised = false;
     MouseState m_mouse;
+    // Where the press went that took the activation from this control's pop-up (screen
+    // pixels), until the next press on the button arrives.
+    std::optional<PixelPoint> m_closingPress;
     CalculatorState m_calc;
     bool m_announcedOpen = false;
     AccessibleRegistration m_accessible { m_surface, *this };

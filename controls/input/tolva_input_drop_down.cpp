@@ -4,6 +4,7 @@
 #include "core/input_popups.h"
 #include "core/long_arithmetic.h"
 #include <algorithm>
+#include <cmath>
 
 namespace tolva {
 
@@ -94,18 +95,34 @@ void TolvaInput::OnMouseMove(int16_t button, int16_t shift, float x, float y)
 
 void TolvaInput::OnMouseDown(int16_t button, int16_t shift, float x, float y)
 {
+    const bool closedPopup = ClosedPopup(x, y);
+    m_closingPress.reset();
     if (button == LeftButton) {
-        PressButton(shift, x, y);
+        PressButton(shift, x, y, closedPopup);
         return;
     }
     m_events->MouseDown(button, shift, x, y);
 }
 
-// A left press pushes the button and opens (or closes) the pop-up of the style.
-void TolvaInput::PressButton(int16_t shift, float x, float y)
+// Whether the press at (x, y) is the one that took the activation from this control's pop-up:
+// the same screen pixel, give or take the rounding of twips.
+bool TolvaInput::ClosedPopup(float x, float y) const
+{
+    if (!m_closingPress)
+        return false;
+    const PixelPoint origin = m_surface.ScreenOrigin();
+    const float pressX = float(origin.x) + x / float(m_surface.TwipsPerPixelX());
+    const float pressY = float(origin.y) + y / float(m_surface.TwipsPerPixelY());
+    return std::abs(pressX - float(m_closingPress->x)) <= 1 && std::abs(pressY - float(m_closingPress->y)) <= 1;
+}
+
+// A left press pushes the button and opens (or closes) the pop-up of the style. A press whose
+// arrival already closed the pop-up (it took the pop-up's activation first, and the pop-up
+// accepted) has done what a second press does, and only pushes the button.
+void TolvaInput::PressButton(int16_t shift, float x, float y, bool closedPopup)
 {
     ClickForwarding::Press(m_surface, m_mouse, *this);
-    if (HasDropDown())
+    if (HasDropDown() && !closedPopup)
         if (InputPopup* popup = m_site.Popups().Load(KindOfStyle(m_style)))
             ShowDropDown(*popup);
     int16_t button = LeftButton;

@@ -16,14 +16,14 @@ void WindowTree::SetFocus(HeadlessSurface* surface)
         surface->Listener()->OnGotFocus();
 }
 
-void WindowTree::Activate(HeadlessSurface* surface)
+void WindowTree::Activate(HeadlessSurface* surface, std::optional<PixelPoint> press)
 {
     HeadlessSurface* previous = m_active;
     if (previous == surface)
         return;
     m_active = surface;
     if (previous && previous->Listener())
-        previous->Listener()->OnDeactivate();
+        previous->Listener()->OnDeactivate(press);
 }
 
 void WindowTree::Forget(const HeadlessSurface* surface)

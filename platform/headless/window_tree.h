@@ -33,8 +33,9 @@ public:
     void SetCapture(HeadlessSurface* surface) { m_capture = surface; }
     void ReleaseCapture() { m_capture = nullptr; }
 
-    // Makes another window active; the one that was active is told OnDeactivate first.
-    void Activate(HeadlessSurface* surface);
+    // Makes another window active; the one that was active is told OnDeactivate first, with the
+    // screen point (pixels) of the mouse press that took the activation, if one did.
+    void Activate(HeadlessSurface* surface, std::optional<PixelPoint> press = {});
 
     // Drops a destroyed surface from focus and capture without notifying anyone.
     void Forget(const HeadlessSurface* surface);

@@ -69,21 +69,26 @@ protected:
 
     ControlSite& Site() { return m_site; }
 
+    // The owner's answer may reach client code that lets go of the owner: the hold keeps it until
+    // the answer returns; an owner that goes then unloads this form.
     void Callback(StringView param, Currency value = {})
     {
         if (!m_parent)
             return;
+        const std::shared_ptr<void> hold = m_parent->Hold();
         String message(param);
         m_parent->PopupWindowCallback(message, value);
     }
     bool OwnerTracksSelection() const { return m_parent && m_parent->SelectionTracking(); }
     void UnloadSelf() { m_site.Popups().Unload(Popup::KindOf); }
 
-    void OnDeactivate() override
+    void OnDeactivate(std::optional<PixelPoint> press) override
     {
         if (!m_shown)
             return;
         Hide();
+        if (press && m_parent)
+            m_parent->PopupClosedByPress(*press);
         Callback(u"");
     }
 

@@ -15,7 +15,7 @@ ControlObject::ControlObject(const ControlClass& controlClass)
     : m_class(controlClass)
     , m_surface(CreateControlSurface(*this))
     , m_site(
-          FromWide(controlClass.DefaultInstanceName()), *m_surface, [this](StringView key) { OnPropertyChanged(key); })
+          FromWide(controlClass.DefaultInstanceName()), *m_surface, this, [this](StringView key) { OnPropertyChanged(key); })
     , m_events(*this, *controlClass.eventIid, true)
     , m_notifications(*this, IID_IPropertyNotifySink, false)
     , m_font(*this, [this](const Font& font) { m_control->SetFont(font); })
@@ -77,7 +77,7 @@ void ControlObject::Load(PropertyBag& bag)
     CapturingPropertyBag capture(bag);
     {
         WindowlessSurface surface(nullptr);
-        OleControlSite site(FromWide(m_class.DefaultInstanceName()), surface, nullptr);
+        OleControlSite site(FromWide(m_class.DefaultInstanceName()), surface, nullptr, nullptr);
         auto scratch = m_class.create(surface, site, nullptr);
         scratch->ReadProperties(capture);
     }

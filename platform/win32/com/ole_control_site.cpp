@@ -16,13 +16,25 @@ constexpr const wchar_t* LibraryTitle = L"TolvaKit";
 
 } // namespace
 
-OleControlSite::OleControlSite(String defaultName, const Surface& surface, std::function<void(StringView)> changed)
+OleControlSite::OleControlSite(
+    String defaultName, const Surface& surface, IUnknown* object, std::function<void(StringView)> changed)
     : m_defaultName(std::move(defaultName))
     , m_surface(surface)
+    , m_object(object)
     , m_changed(std::move(changed))
 { }
 
 OleControlSite::~OleControlSite() = default;
+
+// A reference on the object, released with the last copy of the hold (also when making the
+// hold fails).
+std::shared_ptr<void> OleControlSite::Hold()
+{
+    if (!m_object)
+        return nullptr;
+    m_object->AddRef();
+    return std::shared_ptr<void>(m_object, [](void* object) { static_cast<IUnknown*>(object)->Release(); });
+}
 
 void OleControlSite::SetClientSite(IOleClientSite* site)
 {

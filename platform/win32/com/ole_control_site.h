@@ -20,8 +20,10 @@ class DispatchParentForm;
 // may block a script. Formatting is the system's, in the user's locale.
 class OleControlSite final : public ControlSite {
 public:
-    // changed is called for PropertyChanged(key).
-    OleControlSite(String defaultName, const Surface& surface, std::function<void(StringView key)> changed);
+    // changed is called for PropertyChanged(key); object is the control's COM object, which Hold
+    // keeps (nullptr for a site without one).
+    OleControlSite(String defaultName, const Surface& surface, IUnknown* object,
+        std::function<void(StringView key)> changed);
     ~OleControlSite() override;
 
     void SetClientSite(IOleClientSite* site);
@@ -43,6 +45,7 @@ public:
     void ShowAboutBox() override;
     Formatter& Formatting() override { return m_formatter; }
     InputPopups& Popups() override;
+    std::shared_ptr<void> Hold() override;
 
 private:
     // An ambient property or extender property, or nothing when the container lacks it.
@@ -52,6 +55,7 @@ private:
 
     String m_defaultName;
     const Surface& m_surface;
+    IUnknown* m_object;
     std::function<void(StringView)> m_changed;
     ComPtr<IOleClientSite> m_clientSite;
     std::unique_ptr<DispatchParentForm> m_parent;

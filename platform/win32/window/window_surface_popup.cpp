@@ -1,8 +1,28 @@
 // The top-level pop-up windows: owner, activation and the owner's caption.
 #include "platform/win32/window/window_surface.h"
+#include <optional>
 #include <utility>
 
 namespace tolva::win32 {
+
+namespace {
+
+// Where the mouse press went that takes the activation away, when a button is down: the
+// cursor, which has not moved since the press.
+std::optional<PixelPoint> ActivatingPress()
+{
+    for (int button : { VK_LBUTTON, VK_RBUTTON, VK_MBUTTON }) {
+        if (GetKeyState(button) >= 0 && GetAsyncKeyState(button) >= 0)
+            continue;
+        POINT cursor;
+        if (!GetCursorPos(&cursor))
+            return std::nullopt;
+        return PixelPoint { cursor.x, cursor.y };
+    }
+    return std::nullopt;
+}
+
+} // namespace
 
 std::unique_ptr<WindowSurface> WindowSurface::CreatePopupWindow(IUnknown* keepAlive)
 {
@@ -62,7 +82,7 @@ LRESULT WindowSurface::OnActivateMessage(HWND window, WPARAM wParam, LPARAM lPar
     if (m_popupOwner && other != m_popupOwner)
         SendMessageW(m_popupOwner, WM_NCACTIVATE, FALSE, 0);
     if (SurfaceListener* listener = Listener(); listener && wasActive)
-        listener->OnDeactivate();
+        listener->OnDeactivate(ActivatingPress());
     return result;
 }
 

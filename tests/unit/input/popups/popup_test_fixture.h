@@ -25,6 +25,8 @@ public:
             inside(param);
     }
     bool SelectionTracking() const override { return tracking; }
+    std::shared_ptr<void> Hold() override { return nullptr; }
+    void PopupClosedByPress(PixelPoint) override { }
 
     std::vector<std::string> log;
     std::function<void(const String&)> inside;
