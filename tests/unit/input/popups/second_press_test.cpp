@@ -57,7 +57,7 @@ TEST_F(SecondPressTest, APressOnTheButtonClosesThePopupItTookTheActivationFrom)
         // elsewhere took the activation.
         PressDropDown();
         EXPECT_TRUE(popup->Visible());
-        tree.Activate(nullptr, { OnButton.x - 40, OnButton.y });
+        tree.Activate(nullptr, PixelPoint { OnButton.x - 40, OnButton.y });
         PressDropDown();
         EXPECT_TRUE(popup->Visible());
         tree.Activate(nullptr);
