@@ -29,6 +29,8 @@ public:
     void ShowAboutBox() override;
     Formatter& Formatting() override;
     InputPopups& Popups() override;
+    // The part lives as long as its container: holding the container holds it.
+    std::shared_ptr<void> Hold() override { return m_container.Hold(); }
 
 private:
     ControlSite& m_container;

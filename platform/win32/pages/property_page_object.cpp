@@ -34,7 +34,7 @@ ComPtr<IUnknown> PropertyPageObject::Create(const PageClass& pageClass)
 
 PropertyPageObject::PropertyPageObject(const PageClass& pageClass)
     : m_class(pageClass)
-    , m_site(String(pageClass.name, pageClass.name + std::wcslen(pageClass.name)), m_surface, [](StringView) { })
+    , m_site(String(pageClass.name, pageClass.name + std::wcslen(pageClass.name)), m_surface, nullptr, [](StringView) { })
     , m_page(pageClass.create(m_surface, m_site))
 {
     m_surface.SetCanGetFocus(false);
