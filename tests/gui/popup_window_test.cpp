@@ -8,7 +8,6 @@
 #include "tests/gui/hosted_form.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <gtest/gtest.h>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -279,49 +278,6 @@ TEST_F(AtlPopupTest, ThePressAndF4OpenTheCalculatorOwnedByTheForm)
     control.Reset();
     dispatch.Reset();
     EXPECT_TRUE(PopupWindows().empty());
-}
-
-// A real press of the left button on the drop-down button, as the user gives it: the pointer
-// first, once the server has put it there (Wine moves it on the server's echo), then the press,
-// and the release once the press was handled.
-void ClickButtonForReal(HWND control, const std::function<bool()>& pressHandled)
-{
-    RECT client;
-    GetClientRect(control, &client);
-    POINT at { client.right - 4, client.bottom / 2 };
-    ClientToScreen(control, &at);
-    SetCursorPos(at.x, at.y);
-    test::PumpUntil([at] {
-        POINT cursor;
-        return GetCursorPos(&cursor) && cursor.x == at.x && cursor.y == at.y;
-    });
-    INPUT input {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    SendInput(1, &input, sizeof input);
-    test::PumpUntil(pressHandled);
-    input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(1, &input, sizeof input);
-}
-
-// The second press takes the activation from the calculator before it arrives: the calculator
-// closes and accepts what it shows, and the press does not open it again.
-TEST_F(AtlPopupTest, ASecondRealPressOnTheButtonClosesThePopupAndAccepts)
-{
-    constexpr DISPID MouseDown = 7, Click = 2;
-    test::Put(dispatch.Get(), L"FormatString", test::Text(L"0.00"));
-    ClickButtonForReal(window, [this] { return Count(MouseDown) == 1; });
-    ASSERT_TRUE(test::PumpUntil([this] { return VisiblePopup() && Count(Click) == 1; }));
-    Type(0, '5');
-    EXPECT_EQ(TextOf(window), L"5");
-
-    ClickButtonForReal(window, [this] { return Count(MouseDown) == 2; });
-    EXPECT_TRUE(test::PumpUntil([this] { return Count(Click) == 2; }));
-    test::PumpFor(200);
-    EXPECT_FALSE(VisiblePopup());
-    EXPECT_EQ(TextOf(window), L"5.00");
-    EXPECT_EQ(Count(MouseDown), 2u);
-    EXPECT_EQ(GetActiveWindow(), form.Get());
 }
 
 } // namespace
