@@ -17,4 +17,12 @@ public:
     virtual void MouseUp(int16_t& /*button*/, int16_t& /*shift*/, float& /*x*/, float& /*y*/) { }
 };
 
+// The events of a control that also takes keys: the mouse events with KeyDown, KeyPress and KeyUp.
+class KeyAndMouseEvents : public MouseEvents {
+public:
+    virtual void KeyDown(int16_t& /*keyCode*/, int16_t& /*shift*/) { }
+    virtual void KeyPress(int16_t& /*keyAscii*/) { }
+    virtual void KeyUp(int16_t& /*keyCode*/, int16_t& /*shift*/) { }
+};
+
 } // namespace tolva

@@ -19,17 +19,7 @@ constexpr StringView Pieces[] = { u"0", u"#", u".", u",", u"%", u"E+", u"E-", u"
 
 String FuzzedFormat(FuzzedDataProvider& data)
 {
-    if (data.ConsumeIntegralInRange<int>(0, 7) == 0)
-        return FuzzedText(data);
-    String format;
-    const size_t count = data.ConsumeIntegralInRange<size_t>(0, 40);
-    for (size_t i = 0; i < count && data.remaining_bytes() > 0; ++i) {
-        if (data.ConsumeIntegralInRange<int>(0, 15) == 0)
-            format.push_back(char16_t(data.ConsumeIntegral<uint16_t>()));
-        else
-            format += Pieces[data.ConsumeIntegralInRange<size_t>(0, std::size(Pieces) - 1)];
-    }
-    return format;
+    return FuzzedPieces(data, Pieces, 40);
 }
 
 // Longer than any picture can make of the value: each item of the format writes a bounded

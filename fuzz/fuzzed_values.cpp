@@ -74,6 +74,21 @@ String FuzzedText(FuzzedDataProvider& data)
     return text;
 }
 
+String FuzzedPieces(FuzzedDataProvider& data, std::span<const StringView> pieces, size_t maxPieces)
+{
+    if (data.ConsumeIntegralInRange<int>(0, 7) == 0)
+        return FuzzedText(data);
+    String text;
+    const size_t count = data.ConsumeIntegralInRange<size_t>(0, maxPieces);
+    for (size_t i = 0; i < count && data.remaining_bytes() > 0; ++i) {
+        if (data.ConsumeIntegralInRange<int>(0, 15) == 0)
+            text.push_back(char16_t(data.ConsumeIntegral<uint16_t>()));
+        else
+            text += pieces[data.ConsumeIntegralInRange<size_t>(0, pieces.size() - 1)];
+    }
+    return text;
+}
+
 Font FuzzedFont(FuzzedDataProvider& data)
 {
     Font font;

@@ -1,6 +1,7 @@
 #pragma once
 #include "core/variant.h"
 #include <fuzzer/FuzzedDataProvider.h>
+#include <span>
 
 namespace tolva::fuzz {
 
@@ -8,6 +9,9 @@ namespace tolva::fuzz {
 // bias to the edges (empty and huge texts, lone surrogates, NaN, infinities, the ends of every
 // integer range, fonts with sizes, weights and charsets no font object would report).
 String FuzzedText(FuzzedDataProvider& data);
+// A text made of up to maxPieces of the given pieces, now and then a raw character between them,
+// and one time in eight raw text: what a parser of those pieces is fed.
+String FuzzedPieces(FuzzedDataProvider& data, std::span<const StringView> pieces, size_t maxPieces);
 Font FuzzedFont(FuzzedDataProvider& data);
 Variant FuzzedValue(FuzzedDataProvider& data);
 

@@ -18,17 +18,7 @@ constexpr StringView Pieces[] = { u"0", u"1", u"2", u"3", u"5", u"7", u"9", u"12
 
 String FuzzedNumberOrDate(FuzzedDataProvider& data)
 {
-    if (data.ConsumeIntegralInRange<int>(0, 7) == 0)
-        return FuzzedText(data);
-    String text;
-    const size_t count = data.ConsumeIntegralInRange<size_t>(0, 16);
-    for (size_t i = 0; i < count && data.remaining_bytes() > 0; ++i) {
-        if (data.ConsumeIntegralInRange<int>(0, 15) == 0)
-            text.push_back(char16_t(data.ConsumeIntegral<uint16_t>()));
-        else
-            text += Pieces[data.ConsumeIntegralInRange<size_t>(0, std::size(Pieces) - 1)];
-    }
-    return text;
+    return FuzzedPieces(data, Pieces, 16);
 }
 
 void CheckCurrency(PortableFormatter& formatter, StringView text)

@@ -5,11 +5,6 @@ namespace tolva {
 
 // The events of TolvaCommand, in their dispatch order 1 to 8: Click, DblClick, KeyDown, KeyPress,
 // KeyUp, MouseDown, MouseMove, MouseUp. Arguments are references: the handler may change them.
-class TolvaCommandEvents : public MouseEvents {
-public:
-    virtual void KeyDown(int16_t& /*keyCode*/, int16_t& /*shift*/) { }
-    virtual void KeyPress(int16_t& /*keyAscii*/) { }
-    virtual void KeyUp(int16_t& /*keyCode*/, int16_t& /*shift*/) { }
-};
+class TolvaCommandEvents : public KeyAndMouseEvents { };
 
 } // namespace tolva

@@ -1,23 +1,13 @@
 #pragma once
-#include <cstdint>
+#include "core/mouse_events.h"
 
 namespace tolva {
 
 // The events of TolvaTabs, in their dispatch order 1 to 9. Arguments are references: the
 // handler may change them, as the host's event sink may. Change(cancel) is raised after a new
 // selection is stored and drawn; setting cancel takes it back.
-class TolvaTabsEvents {
+class TolvaTabsEvents : public KeyAndMouseEvents {
 public:
-    virtual ~TolvaTabsEvents() = default;
-
-    virtual void Click() { }
-    virtual void DblClick() { }
-    virtual void KeyDown(int16_t& /*keyCode*/, int16_t& /*shift*/) { }
-    virtual void KeyPress(int16_t& /*keyAscii*/) { }
-    virtual void KeyUp(int16_t& /*keyCode*/, int16_t& /*shift*/) { }
-    virtual void MouseDown(int16_t& /*button*/, int16_t& /*shift*/, float& /*x*/, float& /*y*/) { }
-    virtual void MouseMove(int16_t& /*button*/, int16_t& /*shift*/, float& /*x*/, float& /*y*/) { }
-    virtual void MouseUp(int16_t& /*button*/, int16_t& /*shift*/, float& /*x*/, float& /*y*/) { }
     virtual void Change(bool& /*cancel*/) { }
 };
 
