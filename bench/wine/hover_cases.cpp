@@ -1,6 +1,7 @@
 #include "bench/wine/hover_cases.h"
 #include "platform/win32/com/dispatch_call.h"
 #include "platform/win32/com/ole_variant.h"
+#include "tests/win32/support/dispatch_helpers.h"
 #include <stdexcept>
 
 namespace tolva::bench {
@@ -60,15 +61,9 @@ VARIANT Text(const wchar_t* text)
     return value;
 }
 
-VARIANT Long(long value)
-{
-    VARIANT v;
-    V_VT(&v) = VT_I4;
-    V_I4(&v) = value;
-    return v;
-}
-
 namespace {
+
+using win32::test::Long;
 
 HWND Own(const AtlControl& control)
 {

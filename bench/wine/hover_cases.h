@@ -41,6 +41,5 @@ struct HoverCase {
 std::vector<HoverCase> HoverCases();
 
 VARIANT Text(const wchar_t* text); // the caller owns the string
-VARIANT Long(long value);
 
 } // namespace tolva::bench

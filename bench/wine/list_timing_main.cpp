@@ -7,6 +7,7 @@
 #include "bench/wine/hover_cases.h"
 #include "bench/wine/timing.h"
 #include "tests/gui/gui_support.h"
+#include "tests/win32/support/dispatch_helpers.h"
 #include <commctrl.h>
 #include <cstdio>
 #include <cstdlib>
@@ -16,21 +17,26 @@
 #include <vector>
 
 using namespace tolva::bench;
+using tolva::win32::test::Bool;
+using tolva::win32::test::BorrowedText;
+using tolva::win32::test::InvokeWith;
+using tolva::win32::test::Long;
 using tolva::win32::test::PumpFor;
 
 namespace {
 
 constexpr int Width = 1200, Height = 800, Columns = 4, Rounds = 5, Repaints = 40;
-constexpr DISPID AutoRefreshId = 0x68030017, RowTextId = 0x68030018, ListIndexId = 0x6803001B,
-                 AddColumnId = 0x60030022, AddRowId = 0x60030023;
+constexpr DISPID AutoRefreshId = 0x68030017, RowTextId = 0x68030018, ListIndexId = 0x6803001B, AddColumnId = 0x60030022,
+                 AddRowId = 0x60030023;
 
 // Seconds that one run of work takes.
 double Seconds(const std::function<void()>& work)
 {
-    return MicrosecondsPerRepetition({ { L"", [&](int) {
-                                            work();
-                                            GdiFlush();
-                                        } } },
+    return MicrosecondsPerRepetition({ { L"",
+                                         [&](int) {
+                                             work();
+                                             GdiFlush();
+                                         } } },
                1, 1)
                .front()
         / 1e6;
@@ -60,7 +66,8 @@ struct Texts {
     {
         for (int i = 0; i < 1024; ++i) {
             const std::wstring n = std::to_wstring(1000 + i);
-            for (const std::wstring& text : { L"2024-01-" + n.substr(2), L"Payee " + n, L"  -" + n + L".50", L" " + n + L"00.25" }) {
+            for (const std::wstring& text :
+                { L"2024-01-" + n.substr(2), L"Payee " + n, L"  -" + n + L".50", L" " + n + L"00.25" }) {
                 plain.push_back(text.substr(0, 10));
                 bstrs.push_back(SysAllocString(plain.back().c_str()));
             }
@@ -75,51 +82,12 @@ struct Texts {
     std::vector<BSTR> bstrs;
 };
 
-HRESULT Invoke(IDispatch* object, DISPID id, WORD flags, std::vector<VARIANT> reversedArguments)
-{
-    DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS params = { reversedArguments.data(), nullptr, UINT(reversedArguments.size()), 0 };
-    if (flags == DISPATCH_PROPERTYPUT) {
-        params.rgdispidNamedArgs = &named;
-        params.cNamedArgs = 1;
-    }
-    VARIANT result;
-    VariantInit(&result);
-    const HRESULT hr = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, &result, nullptr, nullptr);
-    VariantClear(&result);
-    return hr;
-}
-
-VARIANT Long(LONG value)
-{
-    VARIANT v;
-    V_VT(&v) = VT_I4;
-    V_I4(&v) = value;
-    return v;
-}
-
-VARIANT Text(BSTR value)
-{
-    VARIANT v;
-    V_VT(&v) = VT_BSTR;
-    V_BSTR(&v) = value;
-    return v;
-}
-
-VARIANT Bool(bool value)
-{
-    VARIANT v;
-    V_VT(&v) = VT_BOOL;
-    V_BOOL(&v) = value ? VARIANT_TRUE : VARIANT_FALSE;
-    return v;
-}
-
 HWND Frame(const wchar_t* title)
 {
     RECT r = { 0, 0, Width, Height };
     AdjustWindowRect(&r, WS_OVERLAPPEDWINDOW, FALSE);
-    HWND frame = CreateWindowExW(0, L"TolvaTimingFrame", title, WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
-        r.right - r.left, r.bottom - r.top, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    HWND frame = CreateWindowExW(0, L"TolvaTimingFrame", title, WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0,
+        0, r.right - r.left, r.bottom - r.top, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     return frame;
 }
 
@@ -156,21 +124,23 @@ struct HostedList {
     void AddColumns(const Texts& texts)
     {
         for (int c = 0; c < Columns; ++c)
-            Check(Invoke(dispatch, AddColumnId, DISPATCH_METHOD, { Long(c < 2 ? 2400 : 2700), Long(c < 2 ? 0 : 1), Text(texts.bstrs[size_t(c)]) }),
+            Check(InvokeWith(dispatch, AddColumnId, DISPATCH_METHOD,
+                      { BorrowedText(texts.bstrs[size_t(c)]), Long(c < 2 ? 0 : 1), Long(c < 2 ? 2400 : 2700) }, false),
                 "AddColumn");
     }
     // AddRow and a RowText assignment per cell, by dispatch id, with AutoRefresh off.
     void Fill(const Texts& texts, int rows)
     {
-        Check(Invoke(dispatch, AutoRefreshId, DISPATCH_PROPERTYPUT, { Bool(false) }), "AutoRefresh");
+        Check(InvokeWith(dispatch, AutoRefreshId, DISPATCH_PROPERTYPUT, { Bool(false) }, true), "AutoRefresh");
         for (int r = 1; r <= rows; ++r) {
-            Invoke(dispatch, AddRowId, DISPATCH_METHOD, {});
+            InvokeWith(dispatch, AddRowId, DISPATCH_METHOD, {}, false);
             const size_t base = size_t(r % 1024) * Columns;
             for (int c = 1; c <= Columns; ++c)
-                Invoke(dispatch, RowTextId, DISPATCH_PROPERTYPUT, { Text(texts.bstrs[base + size_t(c - 1)]), Long(c), Long(r) });
+                InvokeWith(dispatch, RowTextId, DISPATCH_PROPERTYPUT,
+                    { Long(r), Long(c), BorrowedText(texts.bstrs[base + size_t(c - 1)]) }, true);
         }
-        Check(Invoke(dispatch, AutoRefreshId, DISPATCH_PROPERTYPUT, { Bool(true) }), "AutoRefresh");
-        Check(Invoke(dispatch, ListIndexId, DISPATCH_PROPERTYPUT, { Long(rows / 2) }), "ListIndex");
+        Check(InvokeWith(dispatch, AutoRefreshId, DISPATCH_PROPERTYPUT, { Bool(true) }, true), "AutoRefresh");
+        Check(InvokeWith(dispatch, ListIndexId, DISPATCH_PROPERTYPUT, { Long(rows / 2) }, true), "ListIndex");
         Pump();
     }
 
@@ -185,8 +155,8 @@ struct ListView {
     explicit ListView(const Texts& texts)
     {
         frame = Frame(L"ListView");
-        window = CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0, Width,
-            Height, frame, nullptr, GetModuleHandleW(nullptr), nullptr);
+        window = CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_SHOWSELALWAYS, 0, 0,
+            Width, Height, frame, nullptr, GetModuleHandleW(nullptr), nullptr);
         SendMessageW(window, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
         for (int c = 0; c < Columns; ++c) {
             LVCOLUMNW column = {};
@@ -300,19 +270,22 @@ int wmain(int argc, wchar_t** argv)
     const double viewBytes = (double(UsedAddressSpace()) - double(before) - characters) / cells;
 
     Blit blit(list.window);
-    const std::vector<TimedCase> repaints { Repaint(L"TolvaList", list.window), Repaint(L"TolvaList, 100 rows", small.window),
-        Repaint(L"ListView", view.window), blit.Case() };
+    const std::vector<TimedCase> repaints { Repaint(L"TolvaList", list.window),
+        Repaint(L"TolvaList, 100 rows", small.window), Repaint(L"ListView", view.window), blit.Case() };
     const std::vector<double> us = MicrosecondsPerRepetition(repaints, Rounds, Repaints);
     const double listRepaint = us[0], smallRepaint = us[1], viewRepaint = us[2], floor = us[3];
 
-    std::printf("| %d rows x %d columns, %d x %d pixels | TolvaList (Invoke by dispatch id) | ListView (report view, messages) |\n",
+    std::printf("| %d rows x %d columns, %d x %d pixels | TolvaList (Invoke by dispatch id) | ListView (report view, "
+                "messages) |\n",
         rows, Columns, Width, Height);
     std::printf("|---|---:|---:|\n");
-    std::printf("| fill, AutoRefresh off / WM_SETREDRAW off | %.2f s, %.0f cells/s | %.2f s, %.0f cells/s |\n", listFill,
-        cells / listFill, viewFill, cells / viewFill);
+    std::printf("| fill, AutoRefresh off / WM_SETREDRAW off | %.2f s, %.0f cells/s | %.2f s, %.0f cells/s |\n",
+        listFill, cells / listFill, viewFill, cells / viewFill);
     std::printf("| fill speed, TolvaList / ListView | %.1fx | |\n", viewFill / listFill);
-    std::printf("| memory per cell beyond its characters (address space) | %.1f bytes | %.1f bytes |\n", listBytes, viewBytes);
-    std::printf("| full repaint, a selected row in the middle | %.2f ms | %.2f ms |\n", listRepaint / 1000, viewRepaint / 1000);
+    std::printf(
+        "| memory per cell beyond its characters (address space) | %.1f bytes | %.1f bytes |\n", listBytes, viewBytes);
+    std::printf(
+        "| full repaint, a selected row in the middle | %.2f ms | %.2f ms |\n", listRepaint / 1000, viewRepaint / 1000);
     std::printf("| full repaint, TolvaList / ListView | %.2f | |\n", listRepaint / viewRepaint);
     std::printf("| full repaint of 100 rows | %.2f ms | |\n", smallRepaint / 1000);
     std::printf("| repaint(%d rows) / repaint(100 rows) | %.3f | |\n", rows, listRepaint / smallRepaint);

@@ -23,6 +23,9 @@ bool IsObjectType(VARTYPE type)
 // would follow an object's default value without bound.
 HRESULT ChangeType(OleVariant& result, const VARIANT& value, USHORT flags, VARTYPE type)
 {
+    const VARIANT& v = Referenced(value);
+    if (IsPlainValue(v))
+        return VariantChangeType(result.Put(), const_cast<VARIANT*>(&v), flags, type);
     OleVariant plain;
     PlainArgument(plain, value);
     return VariantChangeType(result.Put(), &plain.Get(), flags, type);
@@ -35,62 +38,58 @@ void Change(OleVariant& result, const VARIANT& value, VARTYPE type)
     ThrowIfFailed(ChangeType(result, value, VARIANT_ALPHABOOL, type));
 }
 
+// The value read as type. An argument that has the type already is read where it is: the
+// conversion would only copy it (a text twice over).
+template <class Read> auto To(const VARIANT& value, VARTYPE type, Read read)
+{
+    const VARIANT& v = Referenced(value);
+    if (V_VT(&v) == type)
+        return read(v);
+    OleVariant changed;
+    Change(changed, v, type);
+    return read(changed.Get());
+}
+
 } // namespace
 
 bool ToBool(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_BOOL);
-    return V_BOOL(&v.Get()) != VARIANT_FALSE;
+    return To(value, VT_BOOL, [](const VARIANT& v) { return V_BOOL(&v) != VARIANT_FALSE; });
 }
 
 int16_t ToInt16(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_I2);
-    return V_I2(&v.Get());
+    return To(value, VT_I2, [](const VARIANT& v) { return V_I2(&v); });
 }
 
 int32_t ToInt32(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_I4);
-    return V_I4(&v.Get());
+    return To(value, VT_I4, [](const VARIANT& v) { return int32_t(V_I4(&v)); });
 }
 
 float ToFloat(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_R4);
-    return V_R4(&v.Get());
+    return To(value, VT_R4, [](const VARIANT& v) { return V_R4(&v); });
 }
 
 double ToDouble(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_R8);
-    return V_R8(&v.Get());
+    return To(value, VT_R8, [](const VARIANT& v) { return V_R8(&v); });
 }
 
 Currency ToCurrency(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_CY);
-    return Currency::FromRaw(V_CY(&v.Get()).int64);
+    return To(value, VT_CY, [](const VARIANT& v) { return Currency::FromRaw(V_CY(&v).int64); });
 }
 
 OleDate ToDate(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_DATE);
-    return OleDate(V_DATE(&v.Get()));
+    return To(value, VT_DATE, [](const VARIANT& v) { return OleDate(V_DATE(&v)); });
 }
 
 String ToText(const VARIANT& value)
 {
-    OleVariant v;
-    Change(v, value, VT_BSTR);
-    return FromBstr(V_BSTR(&v.Get()));
+    return To(value, VT_BSTR, [](const VARIANT& v) { return FromBstr(V_BSTR(&v)); });
 }
 
 OleColor ToColor(const VARIANT& value)
@@ -183,6 +182,11 @@ void PlainArgument(OleVariant& result, const VARIANT& value)
             throw ComError(DISP_E_TYPEMISMATCH);
         ThrowIfFailed(VariantCopyInd(result.Put(), &fetched.Get()));
     }
+}
+
+bool IsPlainValue(const VARIANT& value)
+{
+    return !(V_VT(&value) & VT_BYREF) && !IsObjectType(V_VT(&value));
 }
 
 bool IsMissing(const VARIANT& value)

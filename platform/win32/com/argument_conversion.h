@@ -43,6 +43,10 @@ void PutText(VARIANT& target, StringView value);
 // throws ComError with DISP_E_TYPEMISMATCH.
 const VARIANT& Referenced(const VARIANT& value);
 
+// Whether an argument (after Referenced) is the plain value it stands for: neither a reference
+// nor an object, so that PlainArgument would only copy it.
+bool IsPlainValue(const VARIANT& value);
+
 // The plain value an argument stands for, copied into result: what a reference refers to, and
 // an object reduced to its default value, followed at most 8 objects deep (an object whose
 // default value is itself would otherwise recurse the conversion to death). Every conversion of

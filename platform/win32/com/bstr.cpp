@@ -12,9 +12,14 @@ Bstr::Bstr(StringView text)
 
 String FromBstr(const wchar_t* value)
 {
+    return String(ViewOfBstr(value));
+}
+
+StringView ViewOfBstr(const wchar_t* value)
+{
     if (!value)
         return {};
-    return String(reinterpret_cast<const char16_t*>(value), SysStringLen(const_cast<BSTR>(value)));
+    return StringView(reinterpret_cast<const char16_t*>(value), SysStringLen(const_cast<BSTR>(value)));
 }
 
 } // namespace tolva::win32

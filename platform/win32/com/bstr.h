@@ -36,8 +36,9 @@ private:
     BSTR m_value = nullptr;
 };
 
-// The text of a BSTR (a null BSTR is the empty string).
+// The text of a BSTR (a null BSTR is the empty string), copied or where it is.
 String FromBstr(const wchar_t* value);
+StringView ViewOfBstr(const wchar_t* value);
 
 inline const wchar_t* WidePointer(const String& text)
 {

@@ -1,6 +1,7 @@
 #pragma once
 #include "core/variant.h"
 #include "platform/win32/com/argument_conversion.h"
+#include "platform/win32/com/bstr.h"
 #include "platform/win32/com/dispatch_member.h"
 #include "platform/win32/com/variant_conversion.h"
 #include <optional>
@@ -66,7 +67,29 @@ template <> struct OleTraits<String> {
     static void Put(VARIANT& r, StringView v) { PutText(r, v); }
 };
 
-template <> struct OleTraits<StringView> : OleTraits<String> { };
+// A text argument of a StringView parameter: the caller's own string while the call lasts when
+// it is one, else the value converted to text. Nothing is copied for a plain text.
+class TextArgumentView {
+public:
+    TextArgumentView() = default;
+    explicit TextArgumentView(const VARIANT& value)
+    {
+        const VARIANT& v = Referenced(value);
+        if (V_VT(&v) == VT_BSTR)
+            m_borrowed = ViewOfBstr(V_BSTR(&v));
+        else
+            m_converted = ToText(v);
+    }
+    operator StringView() const { return m_borrowed ? *m_borrowed : StringView(m_converted); }
+
+private:
+    std::optional<StringView> m_borrowed;
+    String m_converted;
+};
+
+template <> struct OleTraits<StringView> : OleTraits<String> {
+    static TextArgumentView From(const VARIANT& v) { return TextArgumentView(v); }
+};
 
 // Any plain value, as the core's Variant (an argument left out is an empty one).
 template <> struct OleTraits<Variant> {

@@ -44,9 +44,14 @@ void ToOleVariant(const Variant& value, VARIANT& target)
 
 Variant ArgumentVariant(const VARIANT& value)
 {
+    // A plain value is read where it is; anything else is reduced to a copy first.
     OleVariant plain;
-    PlainArgument(plain, value);
-    switch (plain.Type()) {
+    const VARIANT* v = &Referenced(value);
+    if (!IsPlainValue(*v)) {
+        PlainArgument(plain, value);
+        v = &plain.Get();
+    }
+    switch (V_VT(v)) {
     case VT_EMPTY:
     case VT_BOOL:
     case VT_I1:
@@ -65,7 +70,7 @@ Variant ArgumentVariant(const VARIANT& value)
     case VT_CY:
     case VT_DATE:
     case VT_BSTR:
-        return FromOleVariant(plain.Get());
+        return FromOleVariant(*v);
     default:
         break;
     }
@@ -74,10 +79,15 @@ Variant ArgumentVariant(const VARIANT& value)
 
 Variant FromOleVariant(const VARIANT& value)
 {
-    OleVariant plain;
-    if (FAILED(VariantCopyInd(plain.Put(), const_cast<VARIANT*>(&value))))
-        throw AutomationError::RunTime(RunTimeError::TypeMismatch);
-    const VARIANT& v = plain.Get();
+    // A reference is followed in a copy; a value is read where it is.
+    OleVariant referenced;
+    const VARIANT* pointer = &value;
+    if (V_VT(&value) & VT_BYREF) {
+        if (FAILED(VariantCopyInd(referenced.Put(), const_cast<VARIANT*>(&value))))
+            throw AutomationError::RunTime(RunTimeError::TypeMismatch);
+        pointer = &referenced.Get();
+    }
+    const VARIANT& v = *pointer;
     switch (V_VT(&v)) {
     case VT_EMPTY:
         return Variant();

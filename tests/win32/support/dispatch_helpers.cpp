@@ -1,7 +1,38 @@
 #include "tests/win32/support/dispatch_helpers.h"
-#include <vector>
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <span>
 
 namespace tolva::win32::test {
+
+namespace {
+
+constexpr size_t MaxArguments = 16;
+
+// arguments in the caller's order, turned in place into DISPPARAMS' order.
+HRESULT InvokeInOrder(IDispatch* object, DISPID id, WORD flags, std::span<VARIANT> arguments, bool namedValue,
+    VARIANT* result, EXCEPINFO* exception, UINT* argumentError)
+{
+    std::reverse(arguments.begin(), arguments.end());
+    DISPID named = DISPID_PROPERTYPUT;
+    DISPPARAMS params
+        = { arguments.data(), namedValue ? &named : nullptr, UINT(arguments.size()), namedValue ? 1u : 0u };
+    return object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, result, exception, argumentError);
+}
+
+} // namespace
+
+HRESULT InvokeWith(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, bool namedValue,
+    VARIANT* result, EXCEPINFO* exception, UINT* argumentError)
+{
+    std::array<VARIANT, MaxArguments> copied;
+    if (arguments.size() > copied.size())
+        std::abort();
+    std::copy(arguments.begin(), arguments.end(), copied.begin());
+    return InvokeInOrder(
+        object, id, flags, std::span(copied.data(), arguments.size()), namedValue, result, exception, argumentError);
+}
 
 DISPID IdOf(IDispatch* object, const wchar_t* name)
 {
@@ -18,29 +49,24 @@ HRESULT Get(IDispatch* object, const wchar_t* name, OleVariant& result)
 
 HRESULT Put(IDispatch* object, const wchar_t* name, const VARIANT& value, WORD flags)
 {
-    VARIANT argument = value;
-    DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS params = { &argument, &named, 1, 1 };
-    return object->Invoke(IdOf(object, name), IID_NULL, LOCALE_USER_DEFAULT, flags, &params, nullptr, nullptr, nullptr);
+    return InvokeWith(object, IdOf(object, name), flags, { value }, true);
 }
 
 HRESULT PutAt(IDispatch* object, const wchar_t* name, std::initializer_list<VARIANT> indexes, const VARIANT& value,
     EXCEPINFO* exception)
 {
-    std::vector<VARIANT> arguments { value }; // DISPPARAMS holds the value first, then the last index
-    arguments.insert(arguments.end(), std::rbegin(indexes), std::rend(indexes));
-    DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS params = { arguments.data(), &named, UINT(arguments.size()), 1 };
-    return object->Invoke(
-        IdOf(object, name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &params, nullptr, exception, nullptr);
+    std::array<VARIANT, MaxArguments> arguments;
+    if (indexes.size() >= arguments.size())
+        std::abort();
+    *std::copy(indexes.begin(), indexes.end(), arguments.begin()) = value;
+    return InvokeInOrder(object, IdOf(object, name), DISPATCH_PROPERTYPUT,
+        std::span(arguments.data(), indexes.size() + 1), true, nullptr, exception, nullptr);
 }
 
 HRESULT Call(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, OleVariant& result,
     EXCEPINFO* exception, UINT* argumentError)
 {
-    std::vector<VARIANT> reversed(std::rbegin(arguments), std::rend(arguments));
-    DISPPARAMS params = { reversed.data(), nullptr, UINT(reversed.size()), 0 };
-    return object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, result.Put(), exception, argumentError);
+    return InvokeWith(object, id, flags, arguments, false, result.Put(), exception, argumentError);
 }
 
 VARIANT Long(LONG value)
@@ -89,6 +115,14 @@ TextArgument::~TextArgument()
 TextArgument Text(const wchar_t* value)
 {
     return TextArgument(value);
+}
+
+VARIANT BorrowedText(BSTR value)
+{
+    VARIANT v;
+    V_VT(&v) = VT_BSTR;
+    V_BSTR(&v) = value;
+    return v;
 }
 
 VARIANT Object(IDispatch* value)

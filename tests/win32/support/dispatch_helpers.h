@@ -7,6 +7,14 @@
 namespace tolva::win32::test {
 
 // Late-bound calls as a client language makes them. Each returns the HRESULT of Invoke.
+
+// Invoke with the arguments in the caller's order (DISPPARAMS holds them last first); with
+// namedValue the last one is the assigned value, named DISPID_PROPERTYPUT as compiled clients
+// pass it. Nothing is allocated, so that a benchmark times the object alone; at most 16
+// arguments.
+HRESULT InvokeWith(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, bool namedValue,
+    VARIANT* result = nullptr, EXCEPINFO* exception = nullptr, UINT* argumentError = nullptr);
+
 DISPID IdOf(IDispatch* object, const wchar_t* name);
 HRESULT Get(IDispatch* object, const wchar_t* name, OleVariant& result);
 HRESULT Put(IDispatch* object, const wchar_t* name, const VARIANT& value, WORD flags = DISPATCH_PROPERTYPUT);
@@ -36,6 +44,7 @@ VARIANT Double(double value);
 VARIANT Bool(bool value);
 TextArgument Text(const wchar_t* value);
 VARIANT Object(IDispatch* value);
+VARIANT BorrowedText(BSTR value); // a text the caller holds, passed without a copy
 VARIANT Missing();
 
 // A result read as a number or text, for assertions.
