@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The benchmarks of TolvaKit.dll under Wine (x86_64): builds the DLL, tolva_wine_bench and
-# tolva_wine_list_bench, registers the DLL in a prefix of its own and runs them under Xvfb with
+# The benchmarks of TolvaKit.dll under Wine (x86_64): builds the DLL, tolva_wine_bench,
+# tolva_wine_list_bench and tolva_wine_invoke_bench, registers the DLL in a prefix of its own and runs them under Xvfb with
 # Wine's virtual desktop (or on the display there is). Prints Markdown tables; arguments go to the
 # hover benchmark (the number of hover repaints of the flatness check, default 100000);
 # TOLVA_LIST_ROWS sets the rows of the list benchmark (default 1000000).
@@ -13,7 +13,7 @@ if [ -z "${DISPLAY:-}" ]; then
 fi
 
 cmake --preset mingw64 >/dev/null
-cmake --build --preset mingw64 --target TolvaKit tolva_wine_bench tolva_wine_list_bench -- -j2 >/dev/null
+cmake --build --preset mingw64 --target TolvaKit tolva_wine_bench tolva_wine_list_bench tolva_wine_invoke_bench -- -j2 >/dev/null
 
 wine=/usr/lib/wine/wine64
 wineserver=/usr/lib/wine/wineserver
@@ -32,3 +32,5 @@ trap '"$wineserver" -k || true' EXIT
 "$wine" "$(windows_path "$root/build/mingw64/bin/tolva_wine_bench.exe")" "$@" | tr -d '\r'
 echo
 "$wine" "$(windows_path "$root/build/mingw64/bin/tolva_wine_list_bench.exe")" "${TOLVA_LIST_ROWS:-1000000}" | tr -d '\r'
+echo
+"$wine" "$(windows_path "$root/build/mingw64/bin/tolva_wine_invoke_bench.exe")" | tr -d '\r'
