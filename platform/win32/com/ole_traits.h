@@ -67,18 +67,18 @@ template <> struct OleTraits<String> {
     static void Put(VARIANT& r, StringView v) { PutText(r, v); }
 };
 
-// A text argument of a StringView parameter: the caller's own string while the call lasts when
-// it is one, else the value converted to text. Nothing is copied for a plain text.
+// A text argument of a StringView parameter: a text passed by value is the caller's own string
+// while the call lasts, anything else the value converted to text. A text behind a reference is
+// copied: the caller's variable may change inside the call (a handler of an event it raises).
 class TextArgumentView {
 public:
     TextArgumentView() = default;
     explicit TextArgumentView(const VARIANT& value)
     {
-        const VARIANT& v = Referenced(value);
-        if (V_VT(&v) == VT_BSTR)
-            m_borrowed = ViewOfBstr(V_BSTR(&v));
+        if (V_VT(&value) == VT_BSTR)
+            m_borrowed = ViewOfBstr(V_BSTR(&value));
         else
-            m_converted = ToText(v);
+            m_converted = ToText(value);
     }
     operator StringView() const { return m_borrowed ? *m_borrowed : StringView(m_converted); }
 
