@@ -34,6 +34,14 @@ uint32_t AccessibleStateOf(const Surface& surface, const MouseState& mouse, bool
     return state;
 }
 
+void AnnounceSelection(Surface& surface, const AccessibleElement& element)
+{
+    if (const int32_t item = element.FocusedChild(); item != AccessibleElement::None)
+        surface.Announce(AccessibleEvent::Focus, item);
+    if (const int32_t item = element.SelectedChild(); item != AccessibleElement::None)
+        surface.Announce(AccessibleEvent::Selection, item);
+}
+
 uint32_t SelectableItemState(const Surface& surface, bool selected)
 {
     uint32_t state = AccessibleState::Selectable;

@@ -17,6 +17,7 @@ enum class AccessibleRole {
     ScrollBar,
     PageTabList,
     PageTab,
+    Grouping,
     EditableText,
     List,
     ListItem,
@@ -97,6 +98,9 @@ public:
 private:
     Surface& m_surface;
 };
+
+// Announces the selected item as the focus when the element has the focus, then as the selection.
+void AnnounceSelection(Surface& surface, const AccessibleElement& element);
 
 // The name of a control with a caption: the caption without its access-key marks, or the
 // extender's name when that leaves nothing.

@@ -57,6 +57,8 @@ public:
     // callback that follows: a press on the owner's own button has closed the pop-up already,
     // as a second press would, and must not open it again when it arrives.
     virtual void PopupClosedByPress(PixelPoint screen) = 0;
+    // What screen readers call the owner; its pop-ups go by the same name.
+    virtual String OwnerName() const = 0;
 
 protected:
     ~PopupOwner() = default;

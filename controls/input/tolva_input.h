@@ -86,6 +86,7 @@ public:
     OleColor ddBackColorPushed() const { return m_ddBackColorPushed; }
     void SetddBackColorPushed(OleColor color);
     bool SelectionTracking() const override { return m_selectionTracking; }
+    String OwnerName() const override { return m_site.ExtenderName(); }
     void SetSelectionTracking(bool tracking);
     const String& FormatString() const { return m_formatString; }
     void SetFormatString(StringView format);

@@ -188,7 +188,7 @@ void TolvaList::SetListIndex(int32_t index)
         return;
     m_listIndex = index;
     m_events->SelectionChanged();
-    AnnounceSelection();
+    AnnounceSelection(m_surface, *this);
     m_site.PropertyChanged(u"ListIndex");
     EnsureRowVisible(m_listIndex);
     RedrawList();

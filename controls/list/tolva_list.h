@@ -184,8 +184,6 @@ private:
     void UpdateScrollRange();
     void ShowHandler();
     void SelectRowAt(int16_t button, int16_t shift, float x, float y);
-    // The selected row takes the focus of a focused list, and is the selection.
-    void AnnounceSelection();
 
     // Drawing, in this order within RedrawList.
     void RedrawList();

@@ -161,12 +161,4 @@ void TolvaList::OnGotFocus()
     m_surface.Announce(AccessibleEvent::Focus, FocusedChild());
 }
 
-void TolvaList::AnnounceSelection()
-{
-    if (const int32_t row = FocusedChild(); row != None)
-        m_surface.Announce(AccessibleEvent::Focus, row);
-    if (const int32_t row = SelectedChild(); row != None)
-        m_surface.Announce(AccessibleEvent::Selection, row);
-}
-
 } // namespace tolva

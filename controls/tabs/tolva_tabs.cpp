@@ -142,8 +142,7 @@ void TolvaTabs::SetSelectedItem(int32_t item)
     bool cancel = false;
     m_events->Change(cancel);
     if (!cancel) {
-        if (const int32_t tab = SelectedChild(); tab != None)
-            m_surface.Announce(AccessibleEvent::Selection, tab);
+        AnnounceSelection(m_surface, *this);
         return;
     }
     m_selectedItem = old;

@@ -261,6 +261,34 @@ TEST_F(Accessibility, TheDefaultActionClicksSwitchesAndOpens)
     EXPECT_EQ(tabs->accDoDefaultAction(ChildId(3)), E_INVALIDARG);
 }
 
+BOOL CALLBACK FindVisiblePopup(HWND window, LPARAM found)
+{
+    wchar_t name[32] = {};
+    GetClassNameW(window, name, 32);
+    if (std::wstring(name) == L"TolvaKitSurface" && IsWindowVisible(window))
+        *reinterpret_cast<HWND*>(found) = window;
+    return TRUE;
+}
+
+// The drop-down the input opens is a window of its own that reads as its owner's calendar.
+TEST_F(Accessibility, TheOpenPopupReadsAsATableOfDaysNamedAfterItsOwner)
+{
+    const auto input = ClientObject(u"txtDate");
+    ASSERT_TRUE(input);
+    ASSERT_EQ(input->accDoDefaultAction(ChildId(CHILDID_SELF)), S_OK);
+    HWND popup = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), &FindVisiblePopup, reinterpret_cast<LPARAM>(&popup));
+    ASSERT_TRUE(popup);
+    ComPtr<IAccessible> calendar;
+    ASSERT_EQ(AccessibleObjectFromWindow(popup, OBJID_CLIENT, __uuidof(IAccessible), calendar.PutVoid()), S_OK);
+    const Reading table = Read(*calendar.Get());
+    EXPECT_EQ(table.name, L"txtDate");
+    EXPECT_EQ(table.role, ROLE_SYSTEM_TABLE);
+    EXPECT_EQ(table.children, 42);
+    EXPECT_EQ(Read(*calendar.Get(), 1).role, ROLE_SYSTEM_CELL);
+    EXPECT_EQ(Read(*calendar.Get(), 1).action, L"Choose");
+}
+
 // What the hook hears of the items: set up with window events out of context, delivered while
 // the thread pumps its messages.
 struct Heard {

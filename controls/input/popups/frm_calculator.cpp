@@ -105,6 +105,7 @@ void frmCalculator::SwapKeyImage(int key)
     m_pressed[size_t(key)] = !m_pressed[size_t(key)];
     m_pressedLook = m_pressed[size_t(key)];
     PaintKey(key);
+    Window().Announce(AccessibleEvent::StateChange, key);
 }
 
 // A digit goes as "#" with its number, every other key as its message alone.

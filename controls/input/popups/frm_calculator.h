@@ -27,9 +27,15 @@ public:
     bool KeyShowsPressed(int key) const { return m_pressed.at(size_t(key)); }
     bool Animating() const { return m_tmrTimer->Enabled(); }
 
+    // A group of push buttons, one a key, named after the owner.
+    AccessibleDescription Describe() const override;
+    int32_t ChildCount() const override { return CalculatorKey::Count; }
+    std::unique_ptr<AccessibleElement> Child(int32_t index) override;
+
     static constexpr int32_t AnimationInterval = 140;
 
 private:
+    class KeyItem;
     void Forget() override;
     void OnPaint() override;
     void OnMouseDown(int16_t button, int16_t shift, float x, float y) override;

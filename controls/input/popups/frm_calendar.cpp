@@ -170,7 +170,7 @@ void frmCalendar::Setup()
     ShowDayView();
 }
 
-String frmCalendar::Formatted(OleDate date, StringView format)
+String frmCalendar::Formatted(OleDate date, StringView format) const
 {
     return Site().Formatting().Format(Variant(date), format);
 }
@@ -264,6 +264,7 @@ void frmCalendar::PressDay(int index)
         SetCellBack(*m_lblDay[size_t(index)]->label, SelectedBack);
     m_selectedCell = index;
     m_dtDate = m_lblDay[size_t(index)]->date;
+    AnnounceSelection(Window(), *this);
 }
 
 // The chosen month is marked and becomes the 1st of that month in the year shown.

@@ -37,6 +37,12 @@ public:
     Surface& NextWindow() { return m_tlNext.Window(); }
     Surface& MonthCaptionWindow() { return m_tlMonth.Window(); }
 
+    // A table of the grid's days, named after the owner, whose value is the chosen date.
+    AccessibleDescription Describe() const override;
+    int32_t ChildCount() const override { return Cells; }
+    std::unique_ptr<AccessibleElement> Child(int32_t index) override;
+    int32_t SelectedChild() const override;
+
     static constexpr int Cells = 42;
     static constexpr StringView WeekHeader = u"Su Mo Tu We Th Fr Sa";
     static constexpr StringView MonthPrompt = u"Select a month";
@@ -46,6 +52,7 @@ public:
     static constexpr OleColor ChosenMonthBack = 0x4A5152;
 
 private:
+    class DayItem;
     // One label of the grid or of the month view, with the listener that tells the form which
     // one it is; the listener outlives the label.
     class CellEvents final : public TolvaLabelEvents {
@@ -107,7 +114,7 @@ private:
     void PressDay(int index);
     void PressMonth(int index);
     bool DayViewShown() const { return m_lblWeek == WeekHeader; }
-    String Formatted(OleDate date, StringView format);
+    String Formatted(OleDate date, StringView format) const;
 
     OleDate m_dtDate;
     OleDate m_currentDate;

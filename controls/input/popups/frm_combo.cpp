@@ -114,6 +114,7 @@ void frmCombo::SetListIndex(int32_t index)
         m_topIndex = v;
         Repaint();
     }
+    AnnounceSelection(Window(), *this);
     Callback(u"SELECT", Currency::FromInt(v));
 }
 
@@ -151,7 +152,7 @@ void frmCombo::Repaint()
 void frmCombo::DrawItem(int32_t index)
 {
     const float itemHeight = ItemHeight();
-    if (index < m_topIndex || index > m_topIndex + VisibleItems() - 1 || index >= ListCount())
+    if (!ItemShown(index))
         return;
     const int32_t rowHeight = Pixels(itemHeight);
     const int32_t top = 1 + (index - m_topIndex) * rowHeight;
@@ -166,9 +167,7 @@ void frmCombo::DrawItem(int32_t index)
 // covers its right-hand part), the text 2 pixels in and centred in the row's height.
 void frmCombo::DrawItemOn(Canvas& canvas, int32_t index, float itemHeight)
 {
-    const int32_t rowHeight = Pixels(itemHeight);
-    const Rect row { 1, 1 + (index - m_topIndex) * rowHeight, 1 + Pixels(Window().ScaleWidth() - 2 * Pixel),
-        1 + (index - m_topIndex + 1) * rowHeight };
+    const Rect row = ItemRect(index, itemHeight);
     const bool highlighted = index == m_listIndex;
     DrawingArea area(canvas, row);
     canvas.FillRect(0, 0, row.Width(), row.Height(),
@@ -178,6 +177,18 @@ void frmCombo::DrawItemOn(Canvas& canvas, int32_t index, float itemHeight)
     const TextExtent extent = canvas.MeasureText(text, font);
     canvas.DrawText(TextLeft, (row.Height() - extent.height) / 2, text, font,
         TranslateColor(canvas, highlighted ? SystemColor::HighlightText : SystemColor::WindowText));
+}
+
+Rect frmCombo::ItemRect(int32_t index, float itemHeight)
+{
+    const int32_t rowHeight = Pixels(itemHeight);
+    return { 1, 1 + (index - m_topIndex) * rowHeight, 1 + Pixels(Window().ScaleWidth() - 2 * Pixel),
+        1 + (index - m_topIndex + 1) * rowHeight };
+}
+
+bool frmCombo::ItemShown(int32_t index)
+{
+    return index >= m_topIndex && index <= m_topIndex + VisibleItems() - 1 && index < ListCount();
 }
 
 // Only a bar moved by the user moves the view; the list follows at its next repaint.

@@ -32,7 +32,16 @@ public:
     Surface& ScrollBarWindow() { return m_tsc.Window(); }
     float ItemHeight();
 
+    // A list of the items, named after the owner; the highlighted item is selected and the value.
+    AccessibleDescription Describe() const override;
+    int32_t ChildCount() const override;
+    std::unique_ptr<AccessibleElement> Child(int32_t index) override;
+    int32_t FocusedChild() const override;
+    int32_t SelectedChild() const override;
+
 private:
+    class Item;
+
     class ScrollEvents final : public TolvaScrollEvents {
     public:
         explicit ScrollEvents(frmCombo& form)
@@ -58,6 +67,9 @@ private:
     void Repaint();
     void DrawItem(int32_t index);
     void DrawItemOn(Canvas& canvas, int32_t index, float itemHeight);
+    // Item index's row on the window, pixels, and whether the list shows it.
+    Rect ItemRect(int32_t index, float itemHeight);
+    bool ItemShown(int32_t index);
     void FollowScrollBar();
 
     const ListBox* m_items = nullptr;

@@ -1,9 +1,11 @@
 #pragma once
+#include "core/accessibility.h"
 #include "core/control_site.h"
 #include "core/input_popup.h"
 #include "core/input_popups.h"
 #include "core/surface.h"
 #include <memory>
+#include <utility>
 
 namespace tolva {
 
@@ -14,7 +16,10 @@ namespace tolva {
 // The forms are never destroyed while they run: Unload hides the window and forgets the state,
 // and the owner may unload a form from inside the form's own callback. A form built on this
 // gives its state back to the fresh look in Forget, and reaches its owner only through Callback.
-template <class Popup> class PopupForm : public Popup, protected SurfaceListener {
+//
+// To screen readers a form is an element of its window, named after its owner; showing it moves
+// the focus there.
+template <class Popup> class PopupForm : public Popup, public AccessibleElement, protected SurfaceListener {
 public:
     PopupForm(std::unique_ptr<Surface> window, ControlSite& site)
         : m_window(std::move(window))
@@ -54,6 +59,7 @@ public:
     {
         m_shown = true;
         m_window->SetVisible(true);
+        m_window->Announce(AccessibleEvent::Focus, FocusedChild());
     }
     void Hide() override
     {
@@ -63,11 +69,24 @@ public:
     bool Visible() const override { return m_shown; }
 
     Surface& Window() { return *m_window; }
+    const Surface& Window() const { return *m_window; }
+    bool DoDefaultAction() override { return false; }
 
 protected:
     virtual void Forget() = 0;
 
-    ControlSite& Site() { return m_site; }
+    ControlSite& Site() const { return m_site; }
+    // The form as screen readers read it: named after its owner, focusable, of this role and value.
+    AccessibleDescription FormDescription(AccessibleRole role, String value) const
+    {
+        return { .name = m_parent ? m_parent->OwnerName() : String(),
+            .role = role,
+            .state = AccessibleStateOf(*m_window, MouseState {}, true),
+            .value = std::move(value),
+            .shortcut = {},
+            .defaultAction = {},
+            .location = {} };
+    }
 
     // The owner's answer may reach client code that lets go of the owner: the hold keeps it until
     // the answer returns; an owner that goes then unloads this form.
@@ -97,6 +116,7 @@ private:
     ControlSite& m_site;
     PopupOwner* m_parent = nullptr;
     bool m_shown = false;
+    AccessibleRegistration m_accessible { *m_window, *this };
 };
 
 } // namespace tolva

@@ -21,6 +21,8 @@ LONG RoleOf(AccessibleRole role)
         return ROLE_SYSTEM_PAGETABLIST;
     case AccessibleRole::PageTab:
         return ROLE_SYSTEM_PAGETAB;
+    case AccessibleRole::Grouping:
+        return ROLE_SYSTEM_GROUPING;
     case AccessibleRole::EditableText:
         return ROLE_SYSTEM_TEXT;
     case AccessibleRole::List:

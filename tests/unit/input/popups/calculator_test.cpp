@@ -1,3 +1,4 @@
+#include "tests/unit/support/accessible_printing.h"
 #include "popup_test_fixture.h"
 
 namespace tolva::testing {
@@ -117,6 +118,25 @@ TEST_F(CalculatorPopupTest, EscRestoresAndAClickElsewhereAccepts)
     tree.Activate(nullptr);
     EXPECT_FALSE(calculator.Visible());
     EXPECT_EQ(ToUtf8(input.Text()), "$5.00");
+}
+
+// To screen readers the keypad is a group of push buttons named by their captions; pressing one
+// plays it as a click does, and each change of its look is a change of its state.
+TEST_F(CalculatorPopupTest, ReadsAsAGroupOfKeysThatPress)
+{
+    frmCalculator& calculator = Open();
+    EXPECT_EQ(calculator.Describe().role, AccessibleRole::Grouping);
+    ASSERT_EQ(calculator.ChildCount(), CalculatorKey::Count);
+    EXPECT_EQ(calculator.Child(CalculatorKey::Div)->Describe(),
+        (AccessibleDescription { u"\u00F7", AccessibleRole::PushButton, 0, u"", u"", u"Press", CalculatorKeys()[CalculatorKey::Div].place }));
+    EXPECT_EQ(calculator.Child(CalculatorKey::Bksp)->Describe().name, u"Backspace");
+
+    WindowOf(calculator).TakeAnnouncements();
+    EXPECT_TRUE(calculator.Child(7)->DoDefaultAction());
+    EXPECT_EQ(calculator.Child(7)->Describe().state, AccessibleState::Pressed);
+    Advance(frmCalculator::AnimationInterval);
+    EXPECT_EQ(owner.log, (std::vector<std::string> { "# 7" }));
+    EXPECT_EQ(WindowOf(calculator).TakeAnnouncements(), Heard(2, { AccessibleEvent::StateChange, 7 }));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "tests/unit/support/accessible_printing.h"
 #include "popup_test_fixture.h"
 #include "platform/headless/window_picture.h"
 
@@ -177,6 +178,32 @@ TEST_F(CalendarTest, TheControlTakesTheChosenDayOrItsOldTextBack)
         EXPECT_EQ(popups.Loaded<CalendarPopup>(), nullptr);
         EXPECT_EQ(tree.Active(), nullptr);
     }
+}
+
+// To screen readers the calendar is a table of its 42 days named by their long dates; the chosen
+// day is selected, and choosing one hands it to the owner as a press and release do.
+TEST_F(CalendarTest, ReadsAsATableOfDaysAndChoosesOne)
+{
+    using namespace AccessibleState;
+    frmCalendar& calendar = Open(OleDate::FromYmd(2000, 1, 1));
+    const AccessibleDescription table = calendar.Describe();
+    EXPECT_EQ(table.name, u"txtOwner");
+    EXPECT_EQ(table.role, AccessibleRole::Table);
+    EXPECT_EQ(table.value, u"Saturday, January 1, 2000");
+    ASSERT_EQ(calendar.ChildCount(), 42);
+    const Surface& day = calendar.DayWindow(7);
+    const int32_t left = int32_t(day.Left() / 15), top = int32_t(day.Top() / 15);
+    EXPECT_EQ(calendar.Child(7)->Describe(),
+        (AccessibleDescription { u"Sunday, January 2, 2000", AccessibleRole::Cell, Selectable, u"", u"", u"Choose",
+            { left, top, left + int32_t(day.Width() / 15), top + int32_t(day.Height() / 15) } }));
+    EXPECT_EQ(calendar.SelectedChild(), 6);
+
+    WindowOf(calendar).TakeAnnouncements();
+    owner.log.clear();
+    EXPECT_TRUE(calendar.Child(7)->DoDefaultAction());
+    EXPECT_EQ(calendar.Date().Serial(), OleDate::FromYmd(2000, 1, 2).Serial());
+    EXPECT_EQ(owner.log, (std::vector<std::string> { "" }));
+    EXPECT_EQ(WindowOf(calendar).TakeAnnouncements(), (Heard { { AccessibleEvent::Selection, 7 } }));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "tests/unit/support/accessible_printing.h"
 #include "popup_test_fixture.h"
 #include "platform/headless/window_picture.h"
 
@@ -183,6 +184,25 @@ TEST_F(ComboTest, APopupNeverCallsAGoneOwner)
     inputSurface.Hide();
     EXPECT_EQ(popups.Loaded<frmCombo>(), nullptr);
     EXPECT_EQ(tree.Active(), nullptr);
+}
+
+// To screen readers the list is a list of the items from item 1 on, named after its owner; the
+// highlight is the selection and the value, and the focus while the list has it.
+TEST_F(ComboTest, ReadsAsAListOfTheItemsWhoseHighlightIsSelected)
+{
+    using namespace AccessibleState;
+    frmCombo& list = Open(12, 3);
+    EXPECT_EQ(list.Describe(), (AccessibleDescription { u"txtOwner", AccessibleRole::List, Focusable, u"Item 3", u"", u"", {} }));
+    ASSERT_EQ(list.ChildCount(), 11);
+    EXPECT_EQ(list.Child(2)->Describe(),
+        (AccessibleDescription { u"Item 3", AccessibleRole::ListItem, Selectable | Selected | Focused, u"", u"", u"", { 1, 29, 199, 43 } }));
+    EXPECT_EQ(list.Child(9)->Describe().state, Selectable | Offscreen);
+    EXPECT_EQ(list.Child(11), nullptr);
+
+    WindowOf(list).TakeAnnouncements();
+    EXPECT_TRUE(list.Child(4)->Select());
+    EXPECT_EQ(owner.log, (std::vector<std::string> { "SELECT 5" }));
+    EXPECT_EQ(WindowOf(list).TakeAnnouncements(), (Heard { { AccessibleEvent::Focus, 4 }, { AccessibleEvent::Selection, 4 } }));
 }
 
 } // namespace

@@ -27,6 +27,7 @@ public:
     bool SelectionTracking() const override { return tracking; }
     std::shared_ptr<void> Hold() override { return nullptr; }
     void PopupClosedByPress(PixelPoint) override { }
+    String OwnerName() const override { return u"txtOwner"; }
 
     std::vector<std::string> log;
     std::function<void(const String&)> inside;
