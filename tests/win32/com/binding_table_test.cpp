@@ -7,6 +7,7 @@
 #include "platform/win32/com/type_library.h"
 #include "tests/win32/support/binding_table_checks.h"
 #include "tests/win32/support/command_object.h"
+#include "tests/win32/support/every_control.h"
 #include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
@@ -200,8 +201,7 @@ TEST_P(BindingTable, CoclassNamesItsDispatchAndEventInterfaces)
     EXPECT_TRUE(eventFound);
 }
 
-INSTANTIATE_TEST_SUITE_P(AllControls, BindingTable, testing::ValuesIn(ControlClasses().begin(), ControlClasses().end()),
-    [](const testing::TestParamInfo<const ControlClass*>& info) { return ToUtf8(ViewOf(info.param->name)); });
+INSTANTIATE_TEST_SUITE_P(AllControls, BindingTable, testing::ValuesIn(ControlClasses()), test::ClassName);
 
 // The values of an enumeration in the type library.
 std::map<std::wstring, LONG> EnumValues(const wchar_t* enumName)

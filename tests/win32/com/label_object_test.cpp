@@ -128,13 +128,10 @@ TEST_F(LabelObject, ABorderTheSurfaceCannotDrawIsAnInvalidPropertyValue)
     VARIANT value = Long(-1);
     DISPID named = DISPID_PROPERTYPUT;
     DISPPARAMS params = { &value, &named, 1, 1 };
-    EXCEPINFO exception = {};
+    ExceptionInfo exception;
     EXPECT_EQ(d->Invoke(0x68030009, IID_NULL, 0, DISPATCH_PROPERTYPUT, &params, nullptr, &exception, nullptr),
         DISP_E_EXCEPTION);
     EXPECT_EQ(exception.scode, InvalidPropertyValue);
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
 }
 
 TEST_F(LabelObject, OtherEnumerationsStoreWhateverTheyAreGiven)

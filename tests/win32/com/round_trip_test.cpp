@@ -1,5 +1,6 @@
 // Whatever a control takes, it saves, and whatever it saves, it loads back: every property of
-// every control class at the ends of its type, alone and all at once, and what methods with
+// every control class at the ends of its type and at a plain value its rules accept (a number 1,
+// an ordinary colour), alone and all at once, and what methods with
 // arguments at their ends and indexed properties leave (a list's columns), through the stream
 // and the property bag. A save may refuse what its medium cannot hold, but only before it wrote
 // anything.
@@ -8,6 +9,7 @@
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/control_object.h"
 #include "platform/win32/com/font_conversion.h"
+#include "tests/win32/support/every_control.h"
 #include "tests/win32/support/recording_property_bag.h"
 #include "tests/win32/support/reporting_font.h"
 #include <cfloat>
@@ -81,13 +83,14 @@ std::vector<Extreme> ExtremesOf(OleType type)
             Value(VT_BOOL, [](VARIANT& v) { V_BOOL(&v) = VARIANT_FALSE; }) };
     case OleType::Int16:
         return { Value(VT_I2, [](VARIANT& v) { V_I2(&v) = SHRT_MIN; }),
-            Value(VT_I2, [](VARIANT& v) { V_I2(&v) = SHRT_MAX; }) };
+            Value(VT_I2, [](VARIANT& v) { V_I2(&v) = SHRT_MAX; }), Value(VT_I2, [](VARIANT& v) { V_I2(&v) = 1; }) };
     case OleType::Int32:
         return { Value(VT_I4, [](VARIANT& v) { V_I4(&v) = INT_MIN; }),
-            Value(VT_I4, [](VARIANT& v) { V_I4(&v) = INT_MAX; }) };
+            Value(VT_I4, [](VARIANT& v) { V_I4(&v) = INT_MAX; }), Value(VT_I4, [](VARIANT& v) { V_I4(&v) = 1; }) };
     case OleType::Color:
         return { Value(VT_I4, [](VARIANT& v) { V_I4(&v) = -1; }),
-            Value(VT_I4, [](VARIANT& v) { V_I4(&v) = LONG(0x80000018); }) };
+            Value(VT_I4, [](VARIANT& v) { V_I4(&v) = LONG(0x80000018); }),
+            Value(VT_I4, [](VARIANT& v) { V_I4(&v) = 0x123456; }) };
     case OleType::Float:
         return { Value(VT_R4, [](VARIANT& v) { V_R4(&v) = -FLT_MAX; }),
             Value(VT_R4, [](VARIANT& v) { V_R4(&v) = FLT_MAX; }),
@@ -299,8 +302,7 @@ TEST_P(RoundTrip, WhatMethodsAndIndexedPropertiesLeave)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryControl, RoundTrip, testing::ValuesIn(ControlClasses()),
-    [](const testing::TestParamInfo<const ControlClass*>& info) { return ToUtf8(FromWide(info.param->name)); });
+INSTANTIATE_TEST_SUITE_P(EveryControl, RoundTrip, testing::ValuesIn(ControlClasses()), ClassName);
 
 } // namespace
 } // namespace tolva::win32::test

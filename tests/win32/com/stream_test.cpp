@@ -86,23 +86,14 @@ protected:
     IDispatch* d = command.Dispatch();
 };
 
-TEST_F(CommandStream, RoundTripsEveryPropertyAndKeepsTheFormat)
+// Every value coming back is the round trip's to show (round_trip_test.cpp); here, the bytes.
+TEST_F(CommandStream, ALoadedControlSavesTheSameBytesInTheFormat)
 {
     Put(d, L"MenuName", Text(L"mnuEdit"));
-    Put(d, L"Alignment", Long(1));
-    Put(d, L"Enabled", Bool(false));
-    Put(d, L"ForeColor", Long(LONG(0x80000008)));
     std::vector<uint8_t> bytes = Saved(command);
 
     CommandObject loaded;
     ASSERT_EQ(Persist(loaded)->Load(StreamOf(bytes).Get()), S_OK);
-    EXPECT_EQ(loaded.Control().Caption(), u"Kept");
-    EXPECT_EQ(loaded.Control().MenuName(), u"mnuEdit");
-    EXPECT_EQ(loaded.Control().BackColor(), 0x123456u);
-    EXPECT_EQ(loaded.Control().Style(), 1);
-    EXPECT_EQ(loaded.Control().Alignment(), 1);
-    EXPECT_FALSE(loaded.Control().Enabled());
-    EXPECT_EQ(loaded.Control().ForeColor(), 0x80000008u);
     EXPECT_EQ(Saved(loaded), bytes);
 
     ULARGE_INTEGER size = {};

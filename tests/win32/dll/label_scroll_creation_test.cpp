@@ -1,11 +1,9 @@
-// TolvaLabel, TolvaScroll and TolvaInput from the registered DLL: their registry entries, creation by
-// class id and by either ProgID, and use without a container as a script's CreateObject leaves them.
-// The scroll bar's slider control stays private: it is neither registered nor creatable.
+// The published control classes from the registered DLL: their registry entries, and creation by
+// class id and by either ProgID with their class information. The scroll bar's slider control
+// stays private: it is neither registered nor creatable.
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/com_ptr.h"
 #include "tests/win32/dll/tolva_kit_dll.h"
-#include "tests/win32/support/dispatch_helpers.h"
-#include "tests/win32/support/event_sink.h"
 #include <gtest/gtest.h>
 #include <ocidl.h>
 
@@ -18,6 +16,8 @@ struct Published {
     IID dispatch;
     IID events;
 };
+
+const Published Command = { L"TolvaCommand", TolvaCommandClsid, TolvaCommandDispatchIid, TolvaCommandEventsIid };
 
 const Published Label
     = { L"TolvaLabel", { 0x88B64AC9, 0x2A5A, 0x4E69, { 0xAD, 0x3E, 0x7B, 0xBA, 0x7E, 0xF3, 0x53, 0x59 } },
@@ -33,22 +33,28 @@ const Published Input
           { 0x7313333F, 0xB3E6, 0x4886, { 0x9E, 0x51, 0x2A, 0xF3, 0x14, 0xD8, 0xEF, 0x20 } },
           { 0x70FF4662, 0x1081, 0x44F4, { 0x8E, 0xBD, 0x7E, 0x0C, 0x5C, 0xC4, 0xC1, 0x5A } } };
 
-class LabelAndScroll : public testing::TestWithParam<const Published*> { };
+class PublishedClass : public testing::TestWithParam<const Published*> { };
 
-TEST_P(LabelAndScroll, IsRegisteredAsAnInProcessControlWithBothProgIds)
+TEST_P(PublishedClass, IsRegisteredAsAnInProcessControlWithBothProgIds)
 {
     const Published& p = *GetParam();
     const std::wstring progId = std::wstring(L"TolvaKit.") + p.name;
     const std::wstring classKey = L"CLSID\\" + GuidText(p.clsid);
+    EXPECT_EQ(
+        _wcsicmp(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\InprocServer32").c_str(), TolvaKitDll::Path().c_str()),
+        0);
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\InprocServer32", L"ThreadingModel"), L"Apartment");
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\ProgID"), progId + L".1");
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\VersionIndependentProgID"), progId);
     EXPECT_TRUE(RegistryKeyExists(HKEY_CLASSES_ROOT, classKey + L"\\Control"));
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, classKey + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, progId + L"\\CurVer"), progId + L".1");
-    for (const IID* iid : { &p.dispatch, &p.events })
-        EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(*iid) + L"\\TypeLib"),
-            GuidText(TolvaKitLibraryId));
+    for (const IID* iid : { &p.dispatch, &p.events }) {
+        const std::wstring key = L"Interface\\" + GuidText(*iid);
+        EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, key + L"\\TypeLib"), GuidText(TolvaKitLibraryId));
+        EXPECT_EQ(
+            RegistryText(HKEY_CLASSES_ROOT, key + L"\\ProxyStubClsid32"), L"{00020420-0000-0000-C000-000000000046}");
+    }
     EXPECT_EQ(RegistryText(HKEY_CLASSES_ROOT, L"Interface\\" + GuidText(p.events)), std::wstring(L"__") + p.name);
 
     for (const std::wstring& name : { progId, progId + L".1" }) {
@@ -58,7 +64,7 @@ TEST_P(LabelAndScroll, IsRegisteredAsAnInProcessControlWithBothProgIds)
     }
 }
 
-TEST_P(LabelAndScroll, IsCreatedByClassIdAndProgIdWithItsClassInformation)
+TEST_P(PublishedClass, IsCreatedByClassIdAndProgIdWithItsClassInformation)
 {
     const Published& p = *GetParam();
     ComPtr<IUnknown> byClass;
@@ -81,7 +87,7 @@ TEST_P(LabelAndScroll, IsCreatedByClassIdAndProgIdWithItsClassInformation)
     info->ReleaseTypeAttr(attributes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Classes, LabelAndScroll, testing::Values(&Label, &Scroll, &Input),
+INSTANTIATE_TEST_SUITE_P(Classes, PublishedClass, testing::Values(&Command, &Label, &Scroll, &Input),
     [](const testing::TestParamInfo<const Published*>& info) { return ToUtf8(ViewOf(info.param->name)); });
 
 TEST(PrivateSlider, IsNeitherRegisteredNorCreatable)
@@ -89,28 +95,6 @@ TEST(PrivateSlider, IsNeitherRegisteredNorCreatable)
     CLSID clsid = {};
     EXPECT_NE(CLSIDFromProgID(L"TolvaKit.ctlScrollBox", &clsid), S_OK);
     EXPECT_FALSE(RegistryKeyExists(HKEY_CLASSES_ROOT, L"TolvaKit.ctlScrollBox"));
-}
-
-TEST(WindowlessScroll, WorksWithoutAContainerAndRaisesChange)
-{
-    ComPtr<IDispatch> scroll;
-    ASSERT_EQ(CoCreateInstance(Scroll.clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, scroll.PutVoid()), S_OK);
-    auto sink = ComPtr<EventSink>::Adopt(new EventSink(Scroll.events));
-    ASSERT_NE(Advise(scroll.Get(), Scroll.events, sink.Get()), 0u);
-    EXPECT_EQ(Put(scroll.Get(), L"Max", Long(10)), S_OK);
-    EXPECT_EQ(Put(scroll.Get(), L"Value", Long(7)), S_OK);
-    EXPECT_EQ(Put(scroll.Get(), L"Value", Long(11)), S_OK); // refused silently
-    OleVariant value;
-    ASSERT_EQ(Get(scroll.Get(), L"Value", value), S_OK);
-    EXPECT_EQ(AsLong(value), 7);
-    EXPECT_EQ(sink->Ids(), std::vector<DISPID> { 6 });
-
-    ComPtr<IDispatch> label;
-    ASSERT_EQ(CoCreateInstance(Label.clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, label.PutVoid()), S_OK);
-    EXPECT_EQ(Put(label.Get(), L"Caption", Text(L"Balance")), S_OK);
-    OleVariant caption;
-    ASSERT_EQ(Get(label.Get(), L"Caption", caption), S_OK);
-    EXPECT_EQ(AsText(caption), L"Balance");
 }
 
 } // namespace

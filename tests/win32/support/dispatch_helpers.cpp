@@ -69,6 +69,13 @@ HRESULT Call(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VAR
     return InvokeWith(object, id, flags, arguments, false, result.Put(), exception, argumentError);
 }
 
+ExceptionInfo::~ExceptionInfo()
+{
+    SysFreeString(bstrSource);
+    SysFreeString(bstrDescription);
+    SysFreeString(bstrHelpFile);
+}
+
 VARIANT Long(LONG value)
 {
     VARIANT v;

@@ -37,6 +37,16 @@ private:
     VARIANT m_value;
 };
 
+// An EXCEPINFO an Invoke may fill, whose texts are freed with it.
+struct ExceptionInfo : EXCEPINFO {
+    ExceptionInfo()
+        : EXCEPINFO {}
+    { }
+    ~ExceptionInfo();
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+};
+
 // Values as the clients send them.
 VARIANT Long(LONG value);
 VARIANT Short(SHORT value);
