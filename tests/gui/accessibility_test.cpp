@@ -1,7 +1,9 @@
 // Every control's window answers screen readers with an accessible object of its own, read here
 // as a screen reader reads it: through AccessibleObjectFromWindow and the event hooks.
 #include "platform/win32/com/bstr.h"
+#include "tests/gui/gui_support.h"
 #include "tests/gui/hosted_form.h"
+#include "tests/gui/sample_forms.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <array>
 #include <gtest/gtest.h>
@@ -12,63 +14,6 @@ namespace {
 
 using test::HostedForm;
 using Lines = std::vector<std::string>;
-
-constexpr std::string_view EveryControl = R"(Begin VB.Form frmAccess
-   ClientWidth     =   9000
-   ClientHeight    =   4500
-   Begin TolvaKit.TolvaCommand cmdSave
-      Left            =   150
-      Top             =   150
-      Width           =   1500
-      Height          =   450
-      TabIndex        =   0
-      Caption         =   "&Save"
-   End
-   Begin TolvaKit.TolvaLabel lblMore
-      Left            =   1800
-      Top             =   150
-      Width           =   1500
-      Height          =   300
-      Caption         =   "More"
-      ArrowPosition   =   2
-   End
-   Begin TolvaKit.TolvaInput txtDate
-      Left            =   3450
-      Top             =   150
-      Width           =   2400
-      Height          =   315
-      TabIndex        =   1
-      Text            =   "03/15/2026"
-      Style           =   1
-   End
-   Begin TolvaKit.TolvaScroll vsbPage
-      Left            =   6000
-      Top             =   150
-      Width           =   255
-      Height          =   3000
-      Value           =   7
-   End
-   Begin TolvaKit.TolvaTabs tabMain
-      Left            =   150
-      Top             =   750
-      Width           =   5000
-      Height          =   900
-      TabIndex        =   2
-      TabsCount       =   2
-      Tabs1           =   "&General"
-      Tabs2           =   "&Limits"
-      TabCount        =   2
-      SelectedItem    =   1
-   End
-   Begin TolvaKit.TolvaList lstPeople
-      Left            =   150
-      Top             =   1800
-      Width           =   4500
-      Height          =   2400
-      TabIndex        =   3
-   End
-End
-)";
 
 struct Reading {
     std::wstring name;
@@ -166,7 +111,7 @@ protected:
         return object;
     }
 
-    HostedForm hosted { EveryControl };
+    HostedForm hosted { test::EveryControlForm };
 };
 
 TEST_F(Accessibility, EachControlReadsAsItLooks)
@@ -261,26 +206,16 @@ TEST_F(Accessibility, TheDefaultActionClicksSwitchesAndOpens)
     EXPECT_EQ(tabs->accDoDefaultAction(ChildId(3)), E_INVALIDARG);
 }
 
-BOOL CALLBACK FindVisiblePopup(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (std::wstring(name) == L"TolvaKitSurface" && IsWindowVisible(window))
-        *reinterpret_cast<HWND*>(found) = window;
-    return TRUE;
-}
-
 // The drop-down the input opens is a window of its own that reads as its owner's calendar.
 TEST_F(Accessibility, TheOpenPopupReadsAsATableOfDaysNamedAfterItsOwner)
 {
     const auto input = ClientObject(u"txtDate");
     ASSERT_TRUE(input);
     ASSERT_EQ(input->accDoDefaultAction(ChildId(CHILDID_SELF)), S_OK);
-    HWND popup = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), &FindVisiblePopup, reinterpret_cast<LPARAM>(&popup));
-    ASSERT_TRUE(popup);
+    const std::vector<HWND> popups = test::ThreadWindowsOf(L"TolvaKitSurface", true);
+    ASSERT_EQ(popups.size(), 1u);
     ComPtr<IAccessible> calendar;
-    ASSERT_EQ(AccessibleObjectFromWindow(popup, OBJID_CLIENT, __uuidof(IAccessible), calendar.PutVoid()), S_OK);
+    ASSERT_EQ(AccessibleObjectFromWindow(popups[0], OBJID_CLIENT, __uuidof(IAccessible), calendar.PutVoid()), S_OK);
     const Reading table = Read(*calendar.Get());
     EXPECT_EQ(table.name, L"txtDate");
     EXPECT_EQ(table.role, ROLE_SYSTEM_TABLE);
@@ -305,13 +240,6 @@ void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG ch
         g_heard->push_back({ event, window, child });
 }
 
-void PumpMessages()
-{
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageW(&message);
-}
-
 void PrintTo(const Heard& h, std::ostream* out)
 {
     *out << std::hex << h.event << std::dec << " child " << h.child;
@@ -330,7 +258,7 @@ TEST_F(Accessibility, AHookHearsTheFocusAndTheSelectionOfItemsInOrder)
     SetFocus(list);
     test::Put(Extender(u"lstPeople"), L"ListIndex", test::Long(3));
     test::Put(Extender(u"tabMain"), L"SelectedItem", test::Long(2));
-    PumpMessages();
+    test::PumpFor(20);
     UnhookWinEvent(hook);
     g_heard = nullptr;
     EXPECT_EQ(heard,

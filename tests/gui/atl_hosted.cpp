@@ -46,4 +46,13 @@ size_t AtlHosted::Count(DISPID id) const
     return n;
 }
 
+std::vector<DISPID> AtlHosted::IdsWithout(DISPID id) const
+{
+    std::vector<DISPID> ids;
+    for (DISPID raised : sink->Ids())
+        if (raised != id)
+            ids.push_back(raised);
+    return ids;
+}
+
 } // namespace tolva::win32::test

@@ -19,6 +19,8 @@ protected:
     LONG Read(const wchar_t* name);
     // How many times the sink received event id.
     size_t Count(DISPID id) const;
+    // The events the sink received, in order, but for those of id (the many mouse moves).
+    std::vector<DISPID> IdsWithout(DISPID id) const;
 
     TestWindow form { 320, 240 };
     HWND container = nullptr;

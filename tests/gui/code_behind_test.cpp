@@ -1,33 +1,13 @@
 #include "host/form/form_reader.h"
 #include "host/win32/code_behind.h"
 #include "tests/gui/hosted_form.h"
+#include "tests/gui/sample_forms.h"
 #include <gtest/gtest.h>
 
 namespace tolva::win32 {
 namespace {
 
 using test::HostedForm;
-
-constexpr std::string_view CodeForm = R"(Begin VB.Form frmCode
-   Caption         =   "Code"
-   ClientWidth     =   3000
-   ClientHeight    =   1500
-   Begin TolvaKit.TolvaCommand cmdOK
-      Left            =   150
-      Top             =   150
-      Width           =   1500
-      Height          =   450
-      Caption         =   "&OK"
-   End
-   Begin VB.Menu mnuFile
-      Caption         =   "&File"
-      Visible         =   0   'False
-      Begin VB.Menu mnuFileOpen
-         Caption         =   "&Open"
-      End
-   End
-End
-)";
 
 bool Logged(const HostedForm& hosted, const std::string& line)
 {
@@ -39,7 +19,7 @@ bool Logged(const HostedForm& hosted, const std::string& line)
 
 TEST(CodeBehind, ItsProceduresReceiveTheControlsEventsAndMenuClicks)
 {
-    HostedForm hosted(CodeForm);
+    HostedForm hosted(test::ButtonsForm);
     host::EventLog& log = hosted.EventLog();
     host::CodeBehind code(hosted.Form(),
         L"Sub cmdOK_Click()\n"
@@ -49,7 +29,7 @@ TEST(CodeBehind, ItsProceduresReceiveTheControlsEventsAndMenuClicks)
         L"    WScript.Echo \"down \" & Button & \" at \" & X & \",\" & Y\n"
         L"End Sub\n"
         L"Sub mnuFileOpen_Click()\n"
-        L"    frmCode.Caption = \"Opened with \" & mnuFileOpen.Caption\n"
+        L"    frmTest.Caption = \"Opened with \" & mnuFileOpen.Caption\n"
         L"End Sub\n",
         L"code.vbs", log);
     hosted.Form().SetEventHandlers(&code);
@@ -66,7 +46,7 @@ TEST(CodeBehind, ItsProceduresReceiveTheControlsEventsAndMenuClicks)
 
 TEST(CodeBehind, ACompileErrorStopsItWithTheFileAndLine)
 {
-    HostedForm hosted(CodeForm);
+    HostedForm hosted(test::ButtonsForm);
     try {
         host::CodeBehind code(
             hosted.Form(), L"Sub cmdOK_Click()\n    x = (\nEnd Sub\n", L"broken.vbs", hosted.EventLog());
@@ -78,7 +58,7 @@ TEST(CodeBehind, ACompileErrorStopsItWithTheFileAndLine)
 
 TEST(CodeBehind, ARunTimeErrorInAProcedureIsKeptForTheReport)
 {
-    HostedForm hosted(CodeForm);
+    HostedForm hosted(test::ButtonsForm);
     host::CodeBehind code(
         hosted.Form(), L"Sub mnuFileOpen_Click()\n    Err.Raise 5\nEnd Sub\n", L"failing.vbs", hosted.EventLog());
     hosted.Form().SetEventHandlers(&code);

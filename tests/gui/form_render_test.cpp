@@ -46,12 +46,6 @@ std::vector<std::wstring> SampleForms()
     return names;
 }
 
-std::wstring PictureFolder()
-{
-    wchar_t folder[MAX_PATH] = {};
-    return GetEnvironmentVariableW(L"TOLVA_HEADLESS_PICTURES", folder, MAX_PATH) ? folder : L"";
-}
-
 // The form's client area in TolvaHost's picture of its window: the frame is as wide on the left,
 // right and bottom; the caption and any menu bar are above.
 test::PngImage ClientArea(const test::PngImage& window, int width, int height)
@@ -116,7 +110,7 @@ void CompareOutsideTheText(const std::wstring& name, const std::wstring& picture
 
 TEST(SampleForms, TolvaHostAndTheHeadlessPlatformAgreeOutsideTheText)
 {
-    const std::wstring pictures = PictureFolder();
+    const std::wstring pictures = test::HeadlessPictureFolder();
     if (pictures.empty())
         GTEST_SKIP() << "TOLVA_HEADLESS_PICTURES names no folder of tolva_render pictures";
     const std::vector<std::wstring> forms = SampleForms();

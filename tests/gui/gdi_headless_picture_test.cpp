@@ -59,17 +59,11 @@ Box Around(Box a, Box b)
         std::max(a.bottom, b.bottom) + 1 };
 }
 
-std::wstring PictureFolder()
-{
-    wchar_t folder[MAX_PATH] = {};
-    return GetEnvironmentVariableW(L"TOLVA_HEADLESS_PICTURES", folder, MAX_PATH) ? folder : L"";
-}
-
 class GdiAndHeadless : public testing::TestWithParam<Scene> { };
 
 TEST_P(GdiAndHeadless, DrawTheSamePictureApartFromTheText)
 {
-    const std::wstring folder = PictureFolder();
+    const std::wstring folder = test::HeadlessPictureFolder();
     if (folder.empty())
         GTEST_SKIP() << "TOLVA_HEADLESS_PICTURES names no folder of tolva_render pictures";
     const std::string name = GetParam().name;

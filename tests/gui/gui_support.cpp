@@ -179,4 +179,50 @@ std::vector<HWND> ThreadWindows()
     return windows;
 }
 
+std::vector<HWND> ThreadWindowsOf(const wchar_t* windowClass, bool visibleOnly)
+{
+    std::vector<HWND> found;
+    for (HWND window : ThreadWindows())
+        if (ClassOf(window) == windowClass && (!visibleOnly || IsWindowVisible(window)))
+            found.push_back(window);
+    return found;
+}
+
+std::vector<HWND> Children(HWND parent)
+{
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    return children;
+}
+
+std::wstring ClassOf(HWND window)
+{
+    wchar_t name[64] = {};
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+std::wstring TextOf(HWND window)
+{
+    wchar_t text[256] = {};
+    GetWindowTextW(window, text, 256);
+    return text;
+}
+
+void TypeInto(HWND edit, std::wstring_view text)
+{
+    SendMessageW(edit, EM_SETSEL, 0, -1);
+    for (wchar_t c : text)
+        SendMessageW(edit, WM_CHAR, WPARAM(c), 1);
+}
+
+RECT PlaceIn(HWND window, HWND reference)
+{
+    RECT rect {};
+    GetWindowRect(window, &rect);
+    MapWindowPoints(nullptr, reference, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 } // namespace tolva::win32::test

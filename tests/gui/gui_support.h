@@ -2,6 +2,8 @@
 #include "platform/win32/windows_api.h"
 #include <cstdint>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace tolva::win32::test {
@@ -18,6 +20,17 @@ void PumpFor(DWORD milliseconds);
 // stdcall on 32-bit Windows, which a lambda does not convert to.)
 std::vector<HWND> ChildWindows(HWND parent);
 std::vector<HWND> ThreadWindows();
+// The thread's top-level windows of one class (only the visible ones when visibleOnly).
+std::vector<HWND> ThreadWindowsOf(const wchar_t* windowClass, bool visibleOnly = false);
+// A window's own children, first to last (not their children).
+std::vector<HWND> Children(HWND parent);
+
+std::wstring ClassOf(HWND window);
+std::wstring TextOf(HWND window);
+// Types text into an edit box as the keyboard would, over what it holds.
+void TypeInto(HWND edit, std::wstring_view text);
+// A window's rectangle in the client coordinates of another window (of the screen for nullptr).
+RECT PlaceIn(HWND window, HWND reference);
 
 // Runs action from inside whatever modal loop the thread is in once it has been polling for
 // delayMs, then keeps polling until the action returns true (or ten seconds pass).

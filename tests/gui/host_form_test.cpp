@@ -4,6 +4,7 @@
 #include "platform/win32/com/bstr.h"
 #include "tests/gui/gui_support.h"
 #include "tests/gui/hosted_form.h"
+#include "tests/gui/sample_forms.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <gtest/gtest.h>
 #include <map>
@@ -17,59 +18,10 @@ using Lines = std::vector<std::string>;
 
 constexpr uint32_t Black = 0x000000;
 constexpr uint32_t Normal = 0xCEDBDE;
-constexpr uint32_t Hot = 0xDEE7EF;
-constexpr uint32_t Pushed = 0xBDCBCE;
-
-// Three buttons of 100 x 30 pixels: cmdOK at (10, 20), cmdFirst first in tab order, cmdMenu the
-// default button and a menu button.
-constexpr std::string_view TestForm = R"(VERSION 5.00
-Begin VB.Form frmTest
-   Caption         =   "Test form"
-   ClientWidth     =   6000
-   ClientHeight    =   3000
-   Begin TolvaKit.TolvaCommand cmdOK
-      Left            =   150
-      Top             =   300
-      Width           =   1500
-      Height          =   450
-      TabIndex        =   1
-      Caption         =   "&OK"
-   End
-   Begin TolvaKit.TolvaCommand cmdFirst
-      Left            =   1800
-      Top             =   300
-      Width           =   1500
-      Height          =   450
-      TabIndex        =   0
-      Caption         =   "First"
-   End
-   Begin TolvaKit.TolvaCommand cmdMenu
-      Left            =   3450
-      Top             =   300
-      Width           =   1500
-      Height          =   450
-      TabIndex        =   2
-      Default         =   -1  'True
-      Caption         =   "&File"
-      Style           =   1
-      MenuName        =   "mnuFile"
-   End
-   Begin VB.Menu mnuFile
-      Caption         =   "&File"
-      Visible         =   0   'False
-      Begin VB.Menu mnuFileOpen
-         Caption         =   "&Open"
-      End
-      Begin VB.Menu mnuFileExit
-         Caption         =   "E&xit"
-      End
-   End
-End
-)";
 
 class HostFormTest : public testing::Test {
 protected:
-    HostedForm hosted { TestForm };
+    HostedForm hosted { test::ButtonsForm };
 
     void Send(StringView control, UINT message, WPARAM wParam, int x = 0, int y = 0)
     {
@@ -83,9 +35,7 @@ TEST_F(HostFormTest, PutsEachControlInPlaceAtItsExtenderRectangle)
     HWND window = hosted.Window(u"cmdOK");
     ASSERT_TRUE(window);
     EXPECT_EQ(GetParent(window), hosted.Form().Window());
-    RECT rect;
-    GetWindowRect(window, &rect);
-    MapWindowPoints(nullptr, hosted.Form().Window(), reinterpret_cast<POINT*>(&rect), 2);
+    const RECT rect = test::PlaceIn(window, hosted.Form().Window());
     EXPECT_EQ(rect.left, 10);
     EXPECT_EQ(rect.top, 20);
     EXPECT_EQ(rect.right, 110);
@@ -103,16 +53,6 @@ TEST_F(HostFormTest, FocusesTheFirstControlInTabOrderAndMarksTheDefaultButton)
     EXPECT_EQ(Look(u"cmdOK").At(1, 1), Normal);
 }
 
-TEST_F(HostFormTest, ShowsHotAndPushedLooks)
-{
-    Send(u"cmdOK", WM_MOUSEMOVE, 0, 50, 10);
-    EXPECT_EQ(Look(u"cmdOK").At(2, 2), Hot);
-    Send(u"cmdOK", WM_LBUTTONDOWN, MK_LBUTTON, 50, 10);
-    EXPECT_EQ(Look(u"cmdOK").At(2, 2), Pushed);
-    Send(u"cmdOK", WM_LBUTTONUP, 0, 50, 10);
-    EXPECT_EQ(Look(u"cmdOK").At(2, 2), Normal);
-}
-
 TEST_F(HostFormTest, LogsTheEventsOfAClickWithTheirArguments)
 {
     hosted.Take();
@@ -123,18 +63,10 @@ TEST_F(HostFormTest, LogsTheEventsOfAClickWithTheirArguments)
     EXPECT_EQ(GetFocus(), hosted.Window(u"cmdOK")); // a click takes the focus
 }
 
-TEST_F(HostFormTest, EnterSpaceAndTheAccessKeyClick)
+// Alt+O anywhere on the form, as the message loop hands it over, clicks the button.
+TEST_F(HostFormTest, TheAccessKeyClicksFromAnywhereOnTheForm)
 {
-    hosted.Control(u"cmdOK").Focus();
     hosted.Take();
-    Send(u"cmdOK", WM_KEYDOWN, VK_RETURN);
-    EXPECT_EQ(hosted.Take(), (Lines { "cmdOK_Click", "cmdOK_KeyDown 13, 0" }));
-    Send(u"cmdOK", WM_KEYDOWN, VK_SPACE);
-    Send(u"cmdOK", WM_KEYUP, VK_SPACE);
-    EXPECT_EQ(hosted.Take(),
-        (Lines { "cmdOK_MouseDown 1, 0, 0, 0", "cmdOK_KeyDown 32, 0", "cmdOK_Click", "cmdOK_MouseUp 1, 0, 0, 0",
-            "cmdOK_KeyUp 32, 0" }));
-    // Alt+O anywhere on the form, as the message loop hands it over.
     MSG alt { hosted.Window(u"cmdFirst"), WM_SYSKEYDOWN, 'O', 0x20000000, 0, {} };
     EXPECT_TRUE(hosted.Form().PreTranslateMessage(alt));
     EXPECT_EQ(hosted.Take(), (Lines { "cmdOK_Click", "cmdOK_MouseUp 1, 0, 0, 0" }));
@@ -215,28 +147,21 @@ TEST_F(HostFormTest, TheControlsCollectionFindsByNameOrIndexAndRefusesOthersWith
     EXPECT_EQ(test::AsLong(count), 6);
 
     const Bstr first(u"CMDFIRST"), menu(u"cmdMenu"), none(u"cmdNone");
-    VARIANT menuName;
-    V_VT(&menuName) = VT_BSTR;
-    V_BSTR(&menuName) = menu.Get();
+    VARIANT menuName = test::BorrowedText(menu.Get());
     VARIANT variable; // a script's variable holding the name
     V_VT(&variable) = VT_BYREF | VT_VARIANT;
     V_VARIANTREF(&variable) = &menuName;
-    VARIANT noneName;
-    V_VT(&noneName) = VT_BSTR;
-    V_BSTR(&noneName) = none.Get();
-    VARIANT firstName = noneName;
-    V_BSTR(&firstName) = first.Get();
     struct Case {
         VARIANT key;
         const wchar_t* name; // the item found, or the error's description
         HRESULT scode = S_OK;
     };
     const Case cases[] = {
-        { firstName, L"cmdFirst" },
+        { test::BorrowedText(first.Get()), L"cmdFirst" },
         { variable, L"cmdMenu" },
         { test::Double(0.4), L"cmdOK" },
         { test::Long(5), L"mnuFileExit" },
-        { noneName, L"Control 'cmdNone' not found", HRESULT(0x800A02DA) },
+        { test::BorrowedText(none.Get()), L"Control 'cmdNone' not found", HRESULT(0x800A02DA) },
         { test::Long(6), L"Subscript out of range", HRESULT(0x800A0009) },
         { test::Short(-1), L"Subscript out of range", HRESULT(0x800A0009) },
     };
@@ -289,16 +214,6 @@ TEST_F(HostFormTest, AboutBoxShowsTheLibrarysDialogOwnedByTheForm)
     ASSERT_EQ(test::Call(hosted.Control(u"cmdOK").Extender(), -552 /* AboutBox */, DISPATCH_METHOD, {}, result), S_OK);
     EXPECT_TRUE(driver.Done());
     EXPECT_EQ(owner, hosted.Form().Window());
-}
-
-TEST_F(HostFormTest, KeepsGdiObjectsFlatOverAThousandHoverRepaints)
-{
-    Send(u"cmdOK", WM_MOUSEMOVE, 0, 50, 10);
-    Send(u"cmdOK", WM_MOUSEMOVE, 0, 500, 10);
-    const int before = test::GdiObjectCount();
-    for (int i = 0; i < 1000; ++i)
-        Send(u"cmdOK", WM_MOUSEMOVE, 0, i % 2 ? 50 : 500, 10);
-    EXPECT_EQ(test::GdiObjectCount(), before);
 }
 
 // Every property of the button away from its default, and the form's own keys. The font is one

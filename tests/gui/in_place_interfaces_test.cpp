@@ -2,6 +2,7 @@
 #include "platform/win32/inplace/himetric.h"
 #include "tests/gui/gui_support.h"
 #include "tests/gui/hosted_form.h"
+#include "tests/gui/sample_forms.h"
 #include "tests/win32/support/command_object.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
@@ -19,29 +20,6 @@ using Lines = std::vector<std::string>;
 constexpr uint32_t Black = 0x000000;
 constexpr uint32_t Normal = 0xCEDBDE;
 
-constexpr std::string_view TwoButtons = R"(Begin VB.Form frmPair
-   ClientWidth     =   4500
-   ClientHeight    =   1500
-   Begin TolvaKit.TolvaCommand cmdOK
-      Left            =   150
-      Top             =   300
-      Width           =   1500
-      Height          =   450
-      TabIndex        =   1
-      Caption         =   "&OK"
-   End
-   Begin TolvaKit.TolvaCommand cmdOther
-      Left            =   1800
-      Top             =   300
-      Width           =   1500
-      Height          =   450
-      TabIndex        =   0
-      Default         =   -1  'True
-      Caption         =   "Other"
-   End
-End
-)";
-
 // The interfaces a container may use besides in-place activation, called directly on a control
 // that sits in place on a form of the form host.
 class InPlaceInterfaces : public testing::Test {
@@ -51,7 +29,7 @@ protected:
         return ComPtr<IUnknown>(hosted.Control(name).Object()).As<I>(iid);
     }
 
-    HostedForm hosted { TwoButtons };
+    HostedForm hosted { test::ButtonsForm };
 };
 
 TEST_F(InPlaceInterfaces, ViewObjectDrawsTheWindowsPictureIntoAnyDeviceContext)
@@ -106,7 +84,7 @@ TEST_F(InPlaceInterfaces, AnAmbientChangeRepaints)
     EXPECT_EQ(Pixels::OfWindow(ok).At(1, 1), Normal);
     ASSERT_EQ(test::Put(hosted.Control(u"cmdOK").Extender(), L"Default", test::Bool(true)), S_OK);
     EXPECT_EQ(Pixels::OfWindow(ok).At(1, 1), Black);
-    ASSERT_EQ(test::Put(hosted.Control(u"cmdOther").Extender(), L"Default", test::Bool(true)), S_OK);
+    ASSERT_EQ(test::Put(hosted.Control(u"cmdMenu").Extender(), L"Default", test::Bool(true)), S_OK);
     EXPECT_EQ(Pixels::OfWindow(ok).At(1, 1), Normal);
 }
 

@@ -58,13 +58,9 @@ protected:
     void SetUp() override
     {
         // The scroll bar's parts are child windows: its arrows sit at the top and the bottom.
-        for (HWND part = GetWindow(hosted.Window(u"sbRows"), GW_CHILD); part; part = GetWindow(part, GW_HWNDNEXT)) {
-            RECT r;
-            GetWindowRect(part, &r);
-            MapWindowPoints(nullptr, hosted.Window(u"sbRows"), reinterpret_cast<POINT*>(&r), 2);
-            if (r.bottom == 150)
+        for (HWND part : test::Children(hosted.Window(u"sbRows")))
+            if (test::PlaceIn(part, hosted.Window(u"sbRows")).bottom == 150)
                 downArrow = part;
-        }
         ASSERT_TRUE(downArrow);
         hosted.Take();
     }

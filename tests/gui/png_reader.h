@@ -6,8 +6,8 @@
 
 namespace tolva::win32::test {
 
-// An 8-bit RGB or RGBA PNG file (as the headless renderer writes them), decoded to 0x00BBGGRR
-// pixels, rows top to bottom. Nothing when the file cannot be read or is of another kind.
+// A PNG file (as the headless renderer and the form host write them), decoded to 0x00BBGGRR
+// pixels, rows top to bottom. Nothing when the file cannot be read or decoded.
 struct PngImage {
     int width = 0;
     int height = 0;
@@ -17,5 +17,8 @@ struct PngImage {
 };
 
 std::optional<PngImage> ReadPng(const std::wstring& path);
+
+// The folder of tolva_render's pictures that TOLVA_HEADLESS_PICTURES names; empty when unset.
+std::wstring HeadlessPictureFolder();
 
 } // namespace tolva::win32::test

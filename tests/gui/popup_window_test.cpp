@@ -6,6 +6,7 @@
 #include "tests/gui/atl_hosted.h"
 #include "tests/gui/gui_support.h"
 #include "tests/gui/hosted_form.h"
+#include "tests/gui/sample_forms.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <gtest/gtest.h>
 #include <memory>
@@ -16,66 +17,16 @@ namespace tolva::win32 {
 extern const ControlClass TolvaInputClass;
 namespace {
 
-// A calendar, a calculator and a list field, 2400 x 315 twips each, down the form.
-constexpr std::string_view PopupForm = R"(VERSION 5.00
-Begin VB.Form frmPopups
-   Caption         =   "Pop-ups"
-   ClientWidth     =   4500
-   ClientHeight    =   2400
-   Begin TolvaKit.TolvaInput txtDate
-      Left            =   150
-      Top             =   150
-      Width           =   2400
-      Height          =   315
-      TabIndex        =   0
-      Text            =   "03/15/2026"
-      Style           =   1
-   End
-   Begin TolvaKit.TolvaInput txtAmount
-      Left            =   150
-      Top             =   750
-      Width           =   2400
-      Height          =   315
-      TabIndex        =   1
-      Text            =   "0"
-      Style           =   2
-      FormatString    =   "0.00"
-   End
-   Begin TolvaKit.TolvaInput cboItem
-      Left            =   150
-      Top             =   1350
-      Width           =   2400
-      Height          =   315
-      TabIndex        =   2
-      Text            =   ""
-      Style           =   3
-   End
-End
-)";
-
-BOOL CALLBACK CollectPopup(HWND window, LPARAM found)
-{
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, 32);
-    if (std::wstring(name) == L"TolvaKitSurface")
-        reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-    return TRUE;
-}
-
 // The library's top-level windows on this thread: its pop-ups.
 std::vector<HWND> PopupWindows()
 {
-    std::vector<HWND> found;
-    EnumThreadWindows(GetCurrentThreadId(), &CollectPopup, reinterpret_cast<LPARAM>(&found));
-    return found;
+    return test::ThreadWindowsOf(L"TolvaKitSurface");
 }
 
 HWND VisiblePopup()
 {
-    for (HWND window : PopupWindows())
-        if (IsWindowVisible(window))
-            return window;
-    return nullptr;
+    const std::vector<HWND> shown = test::ThreadWindowsOf(L"TolvaKitSurface", true);
+    return shown.empty() ? nullptr : shown.front();
 }
 
 HWND EditOf(HWND control)
@@ -85,9 +36,7 @@ HWND EditOf(HWND control)
 
 std::wstring TextOf(HWND control)
 {
-    wchar_t text[256] = {};
-    GetWindowTextW(EditOf(control), text, 256);
-    return text;
+    return test::TextOf(EditOf(control));
 }
 
 // A left press and release on the drop-down button, 4 pixels from the control's right edge.
@@ -131,7 +80,7 @@ protected:
     HWND Form() { return hosted->Form().Window(); }
     HWND Control(const char16_t* name) { return hosted->Window(name); }
 
-    std::unique_ptr<test::HostedForm> hosted = std::make_unique<test::HostedForm>(PopupForm);
+    std::unique_ptr<test::HostedForm> hosted = std::make_unique<test::HostedForm>(test::EveryControlForm);
 };
 
 // Opened by a press or by F4, each pop-up is a tool window owned by the form, active, below the

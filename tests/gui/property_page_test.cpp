@@ -1,6 +1,7 @@
 #include "host/win32/property_frame.h"
 #include "tests/gui/gui_support.h"
 #include "tests/gui/hosted_form.h"
+#include "tests/gui/sample_forms.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <gtest/gtest.h>
 #include <olectl.h>
@@ -11,45 +12,9 @@ namespace {
 
 using test::HostedForm;
 
-constexpr std::string_view Controls = R"(Begin VB.Form frmPages
-   ClientWidth     =   6000
-   ClientHeight    =   3000
-   Begin TolvaKit.TolvaCommand cmdOne
-      Left            =   150
-      Top             =   150
-      Width           =   1500
-      Height          =   450
-      Caption         =   "One"
-   End
-   Begin TolvaKit.TolvaCommand cmdTwo
-      Left            =   1800
-      Top             =   150
-      Width           =   1500
-      Height          =   450
-      Caption         =   "Two"
-   End
-   Begin TolvaKit.TolvaList lstItems
-      Left            =   150
-      Top             =   900
-      Width           =   4000
-      Height          =   1500
-   End
-End
-)";
-
-std::wstring ClassOf(HWND window)
-{
-    wchar_t name[64] = {};
-    GetClassNameW(window, name, 64);
-    return name;
-}
-
-std::wstring TextOf(HWND window)
-{
-    wchar_t text[256] = {};
-    GetWindowTextW(window, text, 256);
-    return text;
-}
+using test::ClassOf;
+using test::TextOf;
+using test::TypeInto;
 
 // The descendants of a window of one class, in creation order.
 std::vector<HWND> Descendants(HWND parent, const wchar_t* windowClass)
@@ -80,14 +45,6 @@ HWND FirstEditBeside(HWND checkBox)
     return nullptr;
 }
 
-// Types text into an edit box as the keyboard would, over what it holds.
-void TypeInto(HWND edit, const wchar_t* text)
-{
-    SendMessageW(edit, EM_SETSEL, 0, -1);
-    for (const wchar_t* c = text; *c; ++c)
-        SendMessageW(edit, WM_CHAR, WPARAM(*c), 1);
-}
-
 class PropertyPages : public testing::Test {
 protected:
     ComPtr<IUnknown> Object(StringView name) { return ComPtr<IUnknown>(hosted.Control(name).Object()); }
@@ -99,7 +56,7 @@ protected:
         return test::AsText(value);
     }
 
-    HostedForm hosted { Controls };
+    HostedForm hosted { test::ButtonsForm };
 };
 
 // The designer's frame over two buttons: the page shows the first one's values, typing into its
@@ -127,17 +84,17 @@ TEST_F(PropertyPages, TheFramesApplyWritesTheFirstSelectedControl)
         PostMessageW(frame, WM_COMMAND, host::PropertyFrame::CancelButton, 0);
         return true;
     });
-    host::PropertyFrame frame(hosted.Form().Window(), L"Properties", { Object(u"cmdOne"), Object(u"cmdTwo") });
+    host::PropertyFrame frame(hosted.Form().Window(), L"Properties", { Object(u"cmdOK"), Object(u"cmdFirst") });
     ASSERT_TRUE(frame.Run());
     ASSERT_TRUE(driver.Done());
-    EXPECT_EQ(shownCaption, L"One");
+    EXPECT_EQ(shownCaption, L"&OK");
     EXPECT_FALSE(applyEnabledBefore);
     EXPECT_TRUE(applyEnabledAfterTyping);
     EXPECT_FALSE(applyEnabledAfterApply);
-    EXPECT_EQ(Property(u"cmdOne", L"Caption"), L"Neu");
-    EXPECT_EQ(Property(u"cmdOne", L"Enabled"), L"False");
-    EXPECT_EQ(Property(u"cmdTwo", L"Caption"), L"Two");
-    EXPECT_EQ(Property(u"cmdTwo", L"Enabled"), L"True");
+    EXPECT_EQ(Property(u"cmdOK", L"Caption"), L"Neu");
+    EXPECT_EQ(Property(u"cmdOK", L"Enabled"), L"False");
+    EXPECT_EQ(Property(u"cmdFirst", L"Caption"), L"First");
+    EXPECT_EQ(Property(u"cmdFirst", L"Enabled"), L"True");
 }
 
 // The system's frame shows the pages with the selection's first control in their fields; closed
@@ -147,12 +104,10 @@ TEST_F(PropertyPages, TheSystemFrameShowsThePagesOfTheFirstControl)
     std::wstring shownCaption;
     LRESULT enabledCheck = BST_UNCHECKED;
     test::ModalDriver driver([&] {
-        HWND sheet = nullptr;
-        for (HWND window : test::ThreadWindows())
-            if (ClassOf(window) == L"#32770" && IsWindowVisible(window))
-                sheet = window;
-        if (!sheet)
+        const std::vector<HWND> dialogs = test::ThreadWindowsOf(L"#32770", true);
+        if (dialogs.empty())
             return false;
+        HWND sheet = dialogs.back();
         HWND enabled = ButtonCalled(sheet, L"Enabled");
         HWND caption = enabled ? FirstEditBeside(enabled) : nullptr;
         if (!caption)
@@ -163,18 +118,18 @@ TEST_F(PropertyPages, TheSystemFrameShowsThePagesOfTheFirstControl)
         PostMessageW(sheet, WM_COMMAND, IDCANCEL, 0);
         return true;
     });
-    auto specify = Object(u"cmdOne").As<ISpecifyPropertyPages>(IID_ISpecifyPropertyPages);
+    auto specify = Object(u"cmdOK").As<ISpecifyPropertyPages>(IID_ISpecifyPropertyPages);
     CAUUID pages {};
     ASSERT_EQ(specify->GetPages(&pages), S_OK);
-    IUnknown* objects[] = { Object(u"cmdOne").Get(), Object(u"cmdTwo").Get() };
-    EXPECT_EQ(OleCreatePropertyFrame(hosted.Form().Window(), 0, 0, L"cmdOne", 2, objects, pages.cElems, pages.pElems,
+    IUnknown* objects[] = { Object(u"cmdOK").Get(), Object(u"cmdFirst").Get() };
+    EXPECT_EQ(OleCreatePropertyFrame(hosted.Form().Window(), 0, 0, L"cmdOK", 2, objects, pages.cElems, pages.pElems,
                                      LOCALE_USER_DEFAULT, 0, nullptr),
               S_OK);
     CoTaskMemFree(pages.pElems);
     EXPECT_TRUE(driver.Done());
-    EXPECT_EQ(shownCaption, L"One");
+    EXPECT_EQ(shownCaption, L"&OK");
     EXPECT_EQ(enabledCheck, BST_CHECKED);
-    EXPECT_EQ(Property(u"cmdOne", L"Caption"), L"One");
+    EXPECT_EQ(Property(u"cmdOK", L"Caption"), L"&OK");
 }
 
 // Every control lists its pages in order; each page is registered under its class id with its

@@ -61,9 +61,7 @@ TEST_F(SurfaceOnWindow, TakesTheWindowsRectangleAsItsGeometryInTwips)
     EXPECT_EQ(surface.ScaleWidth(), 1500);
     const int resizes = painter.resizes;
     surface.Move(300, 300, 900, 450);
-    RECT rect;
-    GetWindowRect(surface.Window(), &rect);
-    MapWindowPoints(nullptr, form.Get(), reinterpret_cast<POINT*>(&rect), 2);
+    const RECT rect = test::PlaceIn(surface.Window(), form.Get());
     EXPECT_EQ(rect.left, 20);
     EXPECT_EQ(rect.right - rect.left, 60);
     EXPECT_EQ(rect.bottom - rect.top, 30);
@@ -158,9 +156,7 @@ TEST_F(SurfaceOnWindow, ChildrenGetWindowsInsideTheirParentsAndPaintIntoDrawTo)
     child->Move(150, 300, 450, 150); // 10, 20, 30 x 10 pixels
     HWND childWindow = GetWindow(surface.Window(), GW_CHILD);
     ASSERT_TRUE(childWindow);
-    RECT rect;
-    GetWindowRect(childWindow, &rect);
-    MapWindowPoints(nullptr, surface.Window(), reinterpret_cast<POINT*>(&rect), 2);
+    const RECT rect = test::PlaceIn(childWindow, surface.Window());
     EXPECT_EQ(rect.left, 10);
     EXPECT_EQ(rect.top, 20);
     EXPECT_EQ(rect.right, 40);
