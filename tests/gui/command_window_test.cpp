@@ -107,13 +107,6 @@ TEST_F(CommandOnWindow, TheWindowsFocusBringsAndTakesTheFocusMarks)
     EXPECT_FALSE(command.HasFocusFlag());
 }
 
-TEST_F(CommandOnWindow, AClickRaisesMouseDownClickAndMouseUpInTwips)
-{
-    Mouse(WM_LBUTTONDOWN, MK_LBUTTON, 50, 5);
-    Mouse(WM_LBUTTONUP, 0, 50, 5);
-    EXPECT_EQ(events.lines, (Lines { "MouseDown 1 0 750 75", "Click", "MouseUp 1 0 750 75" }));
-}
-
 TEST_F(CommandOnWindow, APressDraggedOffStillClicksOnRelease)
 {
     Mouse(WM_MOUSEMOVE, 0, 50, 5);
@@ -193,15 +186,6 @@ TEST_F(CommandOnWindow, KeepsItsGdiObjectsFlatOverAThousandHoverRepaints)
         Mouse(WM_MOUSEMOVE, 0, i % 2 ? 50 : 150, 5);
     EXPECT_EQ(test::GdiObjectCount(), before);
     EXPECT_EQ(events.moves, 1002);
-}
-
-TEST_F(CommandOnWindow, DrawsTheSamePictureIntoAContainersDeviceContext)
-{
-    Pixels onScreen = Look();
-    GdiCanvas target(nullptr, 100, 30);
-    surface.DrawTo(target.Dc(), RECT { 0, 0, 100, 30 });
-    Pixels drawn = Pixels::OfDc(target.Dc(), 100, 30);
-    EXPECT_EQ(drawn.DifferencesFrom(onScreen), 0);
 }
 
 TEST_F(CommandOnWindow, DrawsWithoutAWindowToo)

@@ -79,13 +79,6 @@ TEST(GdiCanvas, MeasuresWiderTextWiderAndAnEmptyTextAsOneLineHigh)
     EXPECT_GT(canvas.MeasureText(u"W", SansFont(-26)).height, one.height);
 }
 
-TEST(GdiCanvas, AnswersSystemColoursFromTheSystem)
-{
-    GdiCanvas canvas(nullptr, 1, 1);
-    EXPECT_EQ(canvas.SystemColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNFACE));
-    EXPECT_EQ(canvas.SystemColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_WINDOWTEXT));
-}
-
 TEST(GdiCanvas, ClampsImpossibleSizesAndStillDraws)
 {
     GdiCanvas empty(nullptr, -5, 0);

@@ -120,28 +120,22 @@ TEST_F(HostFormTest, TheMenuButtonOpensItsMenuAtItsBottomLeftCorner)
             "mnuFileOpen_Click", "cmdMenu_MouseUp 1, 0, 150, 150" }));
 }
 
-TEST_F(HostFormTest, TheParentFormAnswersControlsHwndAndPopupMenu)
+// The extender's Parent is the form: its hwnd, Controls(name) as a script calls it, and the
+// Controls collection, which finds controls and menus by name or index and refuses others with
+// the form's errors.
+TEST_F(HostFormTest, TheParentFormAnswersHwndAndControls)
 {
-    IDispatch* extender = hosted.Control(u"cmdOK").Extender();
-    OleVariant parent;
-    ASSERT_EQ(test::Get(extender, L"Parent", parent), S_OK);
-    OleVariant hwnd;
-    ASSERT_EQ(test::Get(V_DISPATCH(&parent.Get()), L"hwnd", hwnd), S_OK);
-    EXPECT_EQ(HWND(intptr_t(test::AsLong(hwnd))), hosted.Form().Window());
-    OleVariant menu;
-    ASSERT_EQ(test::Call(V_DISPATCH(&parent.Get()), test::IdOf(V_DISPATCH(&parent.Get()), L"Controls"),
-                  DISPATCH_METHOD | DISPATCH_PROPERTYGET, { test::Text(L"MNUFILE") }, menu),
-        S_OK);
-    OleVariant caption;
-    ASSERT_EQ(test::Get(V_DISPATCH(&menu.Get()), L"Caption", caption), S_OK);
-    EXPECT_EQ(test::AsText(caption), L"&File");
-}
-
-TEST_F(HostFormTest, TheControlsCollectionFindsByNameOrIndexAndRefusesOthersWithTheFormsErrors)
-{
-    OleVariant parent, controls, count;
+    OleVariant parent, hwnd, fileMenu, caption, controls, count;
     ASSERT_EQ(test::Get(hosted.Control(u"cmdOK").Extender(), L"Parent", parent), S_OK);
-    ASSERT_EQ(test::Get(V_DISPATCH(&parent.Get()), L"Controls", controls), S_OK);
+    IDispatch* form = V_DISPATCH(&parent.Get());
+    ASSERT_EQ(test::Get(form, L"hwnd", hwnd), S_OK);
+    EXPECT_EQ(HWND(intptr_t(test::AsLong(hwnd))), hosted.Form().Window());
+    ASSERT_EQ(test::Call(form, test::IdOf(form, L"Controls"), DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                  { test::Text(L"MNUFILE") }, fileMenu),
+        S_OK);
+    ASSERT_EQ(test::Get(V_DISPATCH(&fileMenu.Get()), L"Caption", caption), S_OK);
+    EXPECT_EQ(test::AsText(caption), L"&File");
+    ASSERT_EQ(test::Get(form, L"Controls", controls), S_OK);
     IDispatch* collection = V_DISPATCH(&controls.Get());
     ASSERT_EQ(test::Get(collection, L"Count", count), S_OK);
     EXPECT_EQ(test::AsLong(count), 6);

@@ -1,7 +1,6 @@
 // TolvaLabel and TolvaScroll in Wine's ATL container (the AtlAxWin window class of atl.dll),
 // created from their ProgIDs: in place with their parts as child windows, driven with mouse
-// messages, raising their events to a sink of ours; and a refusal at run time shown through the
-// container's site.
+// messages, raising their events to a sink of ours.
 #include "tests/gui/atl_hosted.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include <gtest/gtest.h>
@@ -90,30 +89,6 @@ TEST_F(AtlScroll, HoldingTheDownArrowStepsThenRepeatsUntilReleased)
     PumpFor(150);
     EXPECT_EQ(Read(L"Value"), released);
     EXPECT_GT(PlaceIn(slider, window).top, 17);
-}
-
-TEST_F(AtlScroll, ARefusalAtRunTimeIsShownThroughTheContainersWindow)
-{
-    std::wstring text;
-    HWND owner = nullptr;
-    ModalDriver driver([&] {
-        HWND dialog = FindWindowW(L"#32770", nullptr);
-        if (!dialog)
-            return false;
-        for (HWND child : Children(dialog))
-            if (TextOf(child).starts_with(L"Invalid"))
-                text = TextOf(child);
-        owner = GetWindow(dialog, GW_OWNER);
-        SendMessageW(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0);
-        return true;
-    });
-    ASSERT_EQ(Put(dispatch.Get(), L"Value", Long(500)), S_OK); // silent at run time
-    EXPECT_FALSE(driver.Done());
-    ASSERT_EQ(Put(dispatch.Get(), L"Min", Long(500)), S_OK);
-    EXPECT_TRUE(driver.Done());
-    EXPECT_EQ(text, L"Invalid property value");
-    EXPECT_TRUE(owner == form.Get() || owner == container);
-    EXPECT_EQ(Read(L"Min"), 1);
 }
 
 } // namespace

@@ -81,14 +81,6 @@ TEST_F(LabelScrollHostForm, TheArrowAndTheTrackRaiseChangeThroughTheHost)
     EXPECT_EQ(hosted.Take(), (Lines { "sbRows_Change", "sbRows_Change" }));
 }
 
-TEST_F(LabelScrollHostForm, TheLabelsClickIsLoggedWithTwips)
-{
-    SendMessageW(hosted.Window(u"lblLink"), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 10));
-    SendMessageW(hosted.Window(u"lblLink"), WM_LBUTTONUP, 0, MAKELPARAM(20, 10));
-    EXPECT_EQ(hosted.Take(),
-        (Lines { "lblLink_MouseDown 1, 0, 300, 150", "lblLink_Click", "lblLink_MouseUp 1, 0, 300, 150" }));
-}
-
 TEST_F(LabelScrollHostForm, SavingLosesTheLabelsButtonFaceAndKeepsTheRest)
 {
     const std::string saved = FormWriter::Write(hosted.Form().Save());
