@@ -39,28 +39,14 @@ std::wstring Describe(const TypeSpec& t)
 
 std::wstring Describe(ITypeInfo* info, const TYPEDESC& desc)
 {
+    static const std::pair<VARTYPE, OleType> plain[] = { { VT_VOID, OleType::Void }, { VT_HRESULT, OleType::Void },
+        { VT_BOOL, OleType::Bool }, { VT_I2, OleType::Int16 }, { VT_I4, OleType::Int32 }, { VT_R4, OleType::Float },
+        { VT_R8, OleType::Double }, { VT_CY, OleType::Currency }, { VT_DATE, OleType::Date },
+        { VT_BSTR, OleType::String }, { VT_VARIANT, OleType::Variant } };
+    for (auto [vt, type] : plain)
+        if (desc.vt == vt)
+            return Describe(TypeSpec { type });
     switch (desc.vt) {
-    case VT_VOID:
-    case VT_HRESULT:
-        return Describe(TypeSpec { OleType::Void });
-    case VT_BOOL:
-        return Describe(TypeSpec { OleType::Bool });
-    case VT_I2:
-        return Describe(TypeSpec { OleType::Int16 });
-    case VT_I4:
-        return Describe(TypeSpec { OleType::Int32 });
-    case VT_R4:
-        return Describe(TypeSpec { OleType::Float });
-    case VT_R8:
-        return Describe(TypeSpec { OleType::Double });
-    case VT_CY:
-        return Describe(TypeSpec { OleType::Currency });
-    case VT_DATE:
-        return Describe(TypeSpec { OleType::Date });
-    case VT_BSTR:
-        return Describe(TypeSpec { OleType::String });
-    case VT_VARIANT:
-        return Describe(TypeSpec { OleType::Variant });
     case VT_PTR: {
         std::wstring target = Describe(info, *desc.lptdesc);
         return target == L"IFontDisp" ? Describe(TypeSpec { OleType::Font }) : target + L"*";

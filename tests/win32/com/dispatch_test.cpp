@@ -14,24 +14,6 @@ protected:
     OleVariant result;
 };
 
-TEST_F(CommandDispatch, NewObjectWithoutContainerHasTheDefaults)
-{
-    ASSERT_EQ(Get(d, L"Caption", result), S_OK);
-    EXPECT_EQ(AsText(result), L"TolvaCommand1");
-    ASSERT_EQ(Get(d, L"BackColor", result), S_OK);
-    EXPECT_EQ(V_VT(&result.Get()), VT_I4);
-    EXPECT_EQ(AsLong(result), 0xCEDBDE);
-    Get(d, L"ForeColor", result);
-    EXPECT_EQ(AsLong(result), LONG(0x80000012));
-    Get(d, L"Enabled", result);
-    EXPECT_EQ(V_VT(&result.Get()), VT_BOOL);
-    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_TRUE);
-    Get(d, L"Style", result);
-    EXPECT_EQ(AsLong(result), 0);
-    Get(d, L"MenuName", result);
-    EXPECT_EQ(AsText(result), L"");
-}
-
 TEST_F(CommandDispatch, EveryPropertyRoundTripsByName)
 {
     EXPECT_EQ(Put(d, L"Caption", Text(L"&Save")), S_OK);
@@ -71,36 +53,6 @@ TEST_F(CommandDispatch, EveryPropertyRoundTripsByName)
     EXPECT_EQ(AsText(result), L"mnuFile");
     Call(d, 0x68030006, DISPATCH_PROPERTYGET, {}, result);
     EXPECT_EQ(V_VT(&result.Get()), VT_BOOL);
-}
-
-TEST_F(CommandDispatch, DispatchIdsAreThePublishedOnes)
-{
-    const std::pair<const wchar_t*, DISPID> published[] = {
-        { L"Style", 0x68030000 },
-        { L"Caption", 0x68030001 },
-        { L"BackColorPushed", 0x68030002 },
-        { L"MenuName", 0x68030003 },
-        { L"Font", 0x68030005 },
-        { L"Enabled", 0x68030006 },
-        { L"ForeColor", 0x68030007 },
-        { L"ForeColorDisabled", 0x68030008 },
-        { L"BackColor", 0x68030009 },
-        { L"BackColorActive", 0x6803000A },
-        { L"Alignment", 0x6803000B },
-        { L"Refresh", 0x60030010 },
-        { L"AboutBox", -552 },
-    };
-    for (auto [name, id] : published)
-        EXPECT_EQ(IdOf(d, name), id) << ToUtf8(ViewOf(name));
-    ASSERT_EQ(Call(d, 0x68030001, DISPATCH_PROPERTYGET, {}, result), S_OK);
-    EXPECT_EQ(AsText(result), L"TolvaCommand1");
-}
-
-TEST_F(CommandDispatch, NamesIgnoreCase)
-{
-    EXPECT_EQ(IdOf(d, L"caption"), 0x68030001);
-    EXPECT_EQ(IdOf(d, L"BACKCOLORACTIVE"), 0x6803000A);
-    EXPECT_EQ(IdOf(d, L"aboutbox"), -552);
 }
 
 TEST_F(CommandDispatch, UnknownNamesAndIdsAreRefused)
@@ -201,8 +153,6 @@ TEST_F(CommandDispatch, PropertyCalledAsMethodIsRead)
     EXPECT_EQ(AsText(result), L"OK");
     // VBScript calls a method with DISPATCH_METHOD | DISPATCH_PROPERTYGET.
     EXPECT_EQ(Call(d, IdOf(d, L"Refresh"), DISPATCH_METHOD | DISPATCH_PROPERTYGET, {}, result), S_OK);
-    // Without a container the about box is refused silently: nothing modal blocks a script.
-    EXPECT_EQ(Call(d, IdOf(d, L"AboutBox"), DISPATCH_METHOD, {}, result), S_OK);
 }
 
 TEST_F(CommandDispatch, MethodsAndValuePropertiesCannotBeAssignedWrongly)

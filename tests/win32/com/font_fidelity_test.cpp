@@ -65,22 +65,20 @@ protected:
     CommandObject command;
 };
 
+// Also with a name of characters of the code page beyond ASCII.
 TEST_F(FontFidelity, AFontObjectIsReadAsItWasGivenAndLeftSo)
 {
     Font given = Tahoma9Bold();
     given.charset = 1; // DEFAULT_CHARSET, which a realised font never reports
     given.underline = true;
-    ComPtr<IFont> font = CreateStdFont(given);
-    EXPECT_EQ(ReadFont(font.Get()), given);
-    EXPECT_EQ(ReadFont(font.Get()), given);
-    EXPECT_EQ(Recorded(font.Get()), given); // reading did not make it realise itself
-}
-
-TEST_F(FontFidelity, ANameWithCharactersOfTheCodePageBeyondAsciiIsKept)
-{
-    Font given = Tahoma9Bold();
-    given.name = u"Fa\u00e7ade Sans";
-    EXPECT_EQ(ReadFont(CreateStdFont(given).Get()), given);
+    Font accented = Tahoma9Bold();
+    accented.name = u"Fa\u00e7ade Sans";
+    for (const Font& font : { given, accented }) {
+        ComPtr<IFont> object = CreateStdFont(font);
+        EXPECT_EQ(ReadFont(object.Get()), font);
+        EXPECT_EQ(ReadFont(object.Get()), font);
+        EXPECT_EQ(Recorded(object.Get()), font); // reading did not make it realise itself
+    }
 }
 
 TEST_F(FontFidelity, Tahoma9BoldSurvivesThePropertyBag)

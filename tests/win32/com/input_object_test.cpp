@@ -1,12 +1,12 @@
-// TolvaInput through IDispatch, its connection point and its persistence, without a container:
-// the [in, out] and optional arguments of PopupWindowCallback and AddItem, the list box's errors,
-// and hostile values answered by an error or the value itself.
+// TolvaInput through IDispatch and its connection point, without a container: the [in, out] and
+// optional arguments of PopupWindowCallback and AddItem, the list box's errors, and hostile values
+// answered by an error or the value itself. What it saves is the core control's to show
+// (tests/unit/input) and the round trip's (round_trip_test.cpp).
 #include "controls/input/tolva_input.h"
 #include "platform/win32/com/bstr.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
 #include "tests/win32/support/hosted_object.h"
-#include "tests/win32/support/persistence.h"
 #include <gtest/gtest.h>
 
 namespace tolva::win32 {
@@ -47,19 +47,6 @@ protected:
     IDispatch* d = input.Dispatch();
     ComPtr<EventSink> sink = ComPtr<EventSink>::Adopt(new EventSink(*TolvaInputClass.eventIid));
 };
-
-TEST_F(InputObject, ANewObjectIsAnEmptyTextBox)
-{
-    EXPECT_EQ(ReadNumber(L"Style"), 0);
-    EXPECT_EQ(ReadNumber(L"ListCount"), 0);
-    EXPECT_EQ(ReadNumber(L"ListIndex"), -1);
-    EXPECT_EQ(ReadNumber(L"BackColor"), LONG(0x80000005));
-    EXPECT_EQ(ReadNumber(L"ddBackColor"), 0xCEDBDE);
-    EXPECT_EQ(ReadText(L"FormatString"), L"");
-    OleVariant sorted;
-    Get(d, L"Sorted", sorted);
-    EXPECT_EQ(V_VT(&sorted.Get()), VT_BOOL);
-}
 
 // Index may be left out or passed as missing; given, it places the item.
 TEST_F(InputObject, AddItemTakesAnOptionalIndex)
@@ -139,25 +126,6 @@ TEST_F(InputObject, HostileValuesAreRefusedOrKept)
     EXPECT_EQ(Put(d, L"ListIndex", Long(70000)), DISP_E_OVERFLOW);
 }
 
-TEST_F(InputObject, APropertyBagKeepsTheFirstItemAndTheTextAfterTheSelection)
-{
-    Put(d, L"Style", Long(tkInputStyles::tkCombo));
-    for (const wchar_t* item : { L"Rent", L"Food", L"Travel" })
-        Method(L"AddItem", { Text(item) });
-    Put(d, L"ListIndex", Short(0));
-    Put(d, L"FormatString", Text(L"#,##0.00"));
-    auto bag = SavedBag(input.Unknown());
-    ASSERT_TRUE(bag);
-
-    Input loaded { TolvaInputClass };
-    ASSERT_EQ(LoadBag(loaded.Unknown(), bag.Get()), S_OK);
-    EXPECT_EQ(loaded.Core().ListCount(), 1);
-    EXPECT_EQ(loaded.Core().ListIndex(), 0);
-    EXPECT_EQ(loaded.Core().Text(), u"Rent");
-    EXPECT_EQ(loaded.Core().Style(), tkInputStyles::tkCombo);
-    EXPECT_EQ(loaded.Core().FormatString(), u"#,##0.00");
-}
-
 // The calculator's keys through the dispatch interface, formatted by the system.
 class InputCalculator : public InputObject {
 protected:
@@ -175,7 +143,10 @@ protected:
     }
 };
 
-TEST_F(InputCalculator, TwelvePlusThreeIsFifteen)
+// The arithmetic and its errors are the core calculator's (tests/unit/input), hostile format
+// strings the formatter's (tests/win32/format); here the keys arrive with their currency amounts
+// and the results are formatted by the system.
+TEST_F(InputCalculator, KeysComputeAndTheSystemFormatsTheResult)
 {
     Key(L"C", 0);
     EXPECT_EQ(ReadText(L"Text"), L"0");
@@ -190,41 +161,18 @@ TEST_F(InputCalculator, TwelvePlusThreeIsFifteen)
     Key(L"#", 2);
     Key(L"=");
     EXPECT_EQ(ReadText(L"Text"), L"3.5");
-}
 
-TEST_F(InputCalculator, EqualsAppliesTheFormatString)
-{
     Put(d, L"FormatString", Text(L"#,##0.00"));
     Key(L"C", 1234);
     Key(L"*");
     Key(L"#", 2);
     Key(L"=");
     EXPECT_EQ(ReadText(L"Text"), L"2,468.00");
-}
 
-// Errors of the arithmetic and of hostile formats come back as errors; nothing else breaks.
-TEST_F(InputCalculator, ArithmeticErrorsAndHostileFormatsAreAnswered)
-{
     Key(L"C", 5);
     Key(L"/");
     Key(L"#", 0);
     EXPECT_EQ(Key(L"="), HRESULT(0x800A000B));
-    Key(L"C", 922337203685477.0);
-    Key(L"+");
-    Key(L"#", 9);
-    EXPECT_EQ(Key(L"="), HRESULT(0x800A0006));
-    Key(L"C", 922337203685477.0);
-    Key(L"-");
-    Key(L"#", 1);
-    EXPECT_EQ(Key(L"="), S_OK);
-    EXPECT_EQ(ReadText(L"Text"), L"922337203685476");
-
-    const std::wstring format(10000, L'0');
-    Put(d, L"FormatString", Text(format.c_str()));
-    Key(L"C", 12);
-    const HRESULT closed = Key(L"");
-    const std::wstring text = ReadText(L"Text");
-    EXPECT_TRUE(FAILED(closed) || text.size() >= 2) << std::hex << closed;
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // TolvaLabel through IDispatch and its connection point, as a client of the type library meets it.
 #include "controls/label/tolva_label.h"
 #include "platform/win32/com/bstr.h"
-#include "platform/win32/com/module.h"
 #include "platform/win32/com/type_library.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
@@ -9,7 +8,6 @@
 #include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
 #include <map>
-#include <memory>
 #include <olectl.h>
 
 namespace tolva::win32::test {
@@ -18,7 +16,6 @@ namespace {
 constexpr DISPID Click = 1, DblClick = 2, MouseDown = 3, MouseMove = 4, MouseUp = 5;
 constexpr VARTYPE ShortByRef = VT_BYREF | VT_I2;
 constexpr VARTYPE SingleByRef = VT_BYREF | VT_R4;
-constexpr HRESULT InvalidPropertyValue = HRESULT(0x800A017C);
 
 class LabelObject : public testing::Test {
 protected:
@@ -26,58 +23,6 @@ protected:
     IDispatch* d = label.Dispatch();
     OleVariant result;
 };
-
-TEST_F(LabelObject, NewObjectWithoutContainerIsALightOnDarkLabelNamedAfterItsClass)
-{
-    ASSERT_EQ(Get(d, L"Caption", result), S_OK);
-    EXPECT_EQ(AsText(result), L"TolvaLabel1");
-    const std::pair<const wchar_t*, LONG> colours[] = { { L"BackColor", 0x000000 }, { L"ForeColor", 0xFFFFFF },
-        { L"ForeColorActive", 0x9CDFF7 }, { L"ForeColorDisabled", 0x808080 }, { L"ForeColorPushed", 0xFFFFFF },
-        { L"BackColorActive", 0x000000 }, { L"BackColorPushed", 0x000000 } };
-    for (auto [name, colour] : colours) {
-        ASSERT_EQ(Get(d, name, result), S_OK) << ToUtf8(ViewOf(name));
-        EXPECT_EQ(V_VT(&result.Get()), VT_I4) << ToUtf8(ViewOf(name));
-        EXPECT_EQ(AsLong(result), colour) << ToUtf8(ViewOf(name));
-    }
-    Get(d, L"Kerning", result);
-    EXPECT_EQ(V_VT(&result.Get()), VT_BOOL);
-    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_FALSE);
-    Get(d, L"Enabled", result);
-    EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_TRUE);
-    for (const wchar_t* zero : { L"BorderStyle", L"Alignment", L"ArrowIcon", L"ArrowPosition" }) {
-        Get(d, zero, result);
-        EXPECT_EQ(AsLong(result), 0) << ToUtf8(ViewOf(zero));
-    }
-    Get(d, L"MenuName", result);
-    EXPECT_EQ(AsText(result), L"");
-}
-
-TEST_F(LabelObject, DispatchIdsAreThePublishedOnes)
-{
-    const std::pair<const wchar_t*, DISPID> published[] = {
-        { L"BackColorPushed", 0x68030000 },
-        { L"BackColorActive", 0x68030001 },
-        { L"ForeColorPushed", 0x68030002 },
-        { L"ArrowPosition", 0x68030003 },
-        { L"ArrowIcon", 0x68030004 },
-        { L"ForeColorActive", 0x68030005 },
-        { L"Caption", 0x68030006 },
-        { L"MenuName", 0x68030007 },
-        { L"Kerning", 0x68030008 },
-        { L"BorderStyle", 0x68030009 },
-        { L"Font", 0x6803000A },
-        { L"Enabled", 0x6803000B },
-        { L"ForeColor", 0x6803000C },
-        { L"ForeColorDisabled", 0x6803000D },
-        { L"BackColor", 0x6803000E },
-        { L"Alignment", 0x6803000F },
-        { L"Refresh", 0x60030014 },
-        { L"AboutBox", -552 },
-    };
-    for (auto [name, id] : published)
-        EXPECT_EQ(IdOf(d, name), id) << ToUtf8(ViewOf(name));
-    EXPECT_EQ(IdOf(d, L"kerning"), 0x68030008);
-}
 
 TEST_F(LabelObject, EveryPropertyRoundTripsByNameAndReadsBackByDispatchId)
 {
@@ -115,23 +60,6 @@ TEST_F(LabelObject, EveryPropertyRoundTripsByNameAndReadsBackByDispatchId)
     EXPECT_EQ(AsText(result), L"&Details");
     Call(d, 0x68030008, DISPATCH_PROPERTYGET, {}, result);
     EXPECT_EQ(V_BOOL(&result.Get()), VARIANT_TRUE);
-    EXPECT_EQ(Call(d, 0x60030014, DISPATCH_METHOD, {}, result), S_OK);
-    EXPECT_EQ(Call(d, -552, DISPATCH_METHOD, {}, result), S_OK); // no container: nothing modal
-}
-
-TEST_F(LabelObject, ABorderTheSurfaceCannotDrawIsAnInvalidPropertyValue)
-{
-    Put(d, L"BorderStyle", Long(1));
-    EXPECT_EQ(Put(d, L"BorderStyle", Long(2)), InvalidPropertyValue);
-    EXPECT_EQ(label.Core().BorderStyle(), 1);
-    // By dispatch id with room for the exception, as VB calls it.
-    VARIANT value = Long(-1);
-    DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS params = { &value, &named, 1, 1 };
-    ExceptionInfo exception;
-    EXPECT_EQ(d->Invoke(0x68030009, IID_NULL, 0, DISPATCH_PROPERTYPUT, &params, nullptr, &exception, nullptr),
-        DISP_E_EXCEPTION);
-    EXPECT_EQ(exception.scode, InvalidPropertyValue);
 }
 
 TEST_F(LabelObject, OtherEnumerationsStoreWhateverTheyAreGiven)
@@ -140,15 +68,6 @@ TEST_F(LabelObject, OtherEnumerationsStoreWhateverTheyAreGiven)
     EXPECT_EQ(Put(d, L"Alignment", Long(-4)), S_OK);
     EXPECT_EQ(label.Core().ArrowIcon(), 9);
     EXPECT_EQ(label.Core().Alignment(), -4);
-}
-
-TEST_F(LabelObject, MenuNameMarksTheFormDirty)
-{
-    auto stream = label.As<IPersistStreamInit>(IID_IPersistStreamInit);
-    ASSERT_EQ(stream->InitNew(), S_OK);
-    EXPECT_EQ(stream->IsDirty(), S_FALSE);
-    Put(d, L"MenuName", Text(L"mnuFile"));
-    EXPECT_EQ(stream->IsDirty(), S_OK);
 }
 
 // The values of the enumeration that property id of the label's dispinterface is declared with.
@@ -223,45 +142,6 @@ TEST_F(LabelEvents, ALeftPressAndReleaseClickBetweenTheMouseEvents)
     EXPECT_EQ(sink->Events()[1].values, (std::vector<double> { 1, 2, 45.5, 30 }));
     EXPECT_TRUE(sink->Events()[2].types.empty());
     EXPECT_TRUE(sink->Events()[4].types.empty());
-}
-
-TEST_F(LabelEvents, ARightButtonRaisesItsMouseEventsButNoClick)
-{
-    label.Input().OnMouseDown(2, 0, 10, 10);
-    EXPECT_FALSE(label.Core().Mouse().pushed);
-    label.Input().OnMouseUp(2, 0, 10, 10);
-    EXPECT_EQ(sink->Ids(), (std::vector<DISPID> { MouseDown, MouseUp }));
-    EXPECT_EQ(sink->Events()[1].values[0], 2);
-}
-
-TEST_F(LabelEvents, TheSinkMayCallBackIntoTheLabelOrReleaseItDuringClick)
-{
-    IDispatch* dispatch = d;
-    sink->OnEvent([dispatch](DISPID id, const std::vector<VARIANT*>&) {
-        if (id == Click)
-            Put(dispatch, L"Caption", Text(L"Visited"));
-    });
-    label.Input().OnMouseDown(1, 0, 15, 15);
-    label.Input().OnMouseUp(1, 0, 15, 15);
-    EXPECT_EQ(label.Core().Caption(), u"Visited");
-
-    auto other = std::make_unique<HostedObject<TolvaLabel>>(TolvaLabelClass);
-    auto second = ComPtr<EventSink>::Adopt(new EventSink(*TolvaLabelClass.eventIid));
-    ASSERT_NE(Advise(other->Unknown(), *TolvaLabelClass.eventIid, second.Get()), 0u);
-    const long objectsBefore = Module::ObjectCount();
-    {
-        // The window delivering the input holds the object while it does.
-        ComPtr<IUnknown> delivering(other->Unknown());
-        SurfaceListener& input = other->Input();
-        second->OnEvent([&other](DISPID id, const std::vector<VARIANT*>&) {
-            if (id == Click)
-                other.reset();
-        });
-        input.OnMouseDown(1, 0, 0, 0);
-        input.OnMouseUp(1, 0, 0, 0);
-    }
-    EXPECT_EQ(second->Ids(), (std::vector<DISPID> { MouseDown, Click, MouseUp }));
-    EXPECT_LT(Module::ObjectCount(), objectsBefore);
 }
 
 } // namespace

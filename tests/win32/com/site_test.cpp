@@ -24,13 +24,19 @@ protected:
     ComPtr<FakeClientSite> site = ComPtr<FakeClientSite>::Adopt(new FakeClientSite);
 };
 
-TEST_F(ControlSiteTest, WithoutAContainerTheDefaultsApply)
+// Without a container, and with one that lacks the ambients and the extender.
+TEST_F(ControlSiteTest, WithoutAContainerOrItsAmbientsTheDefaultsApply)
 {
-    EXPECT_TRUE(Site().UserMode());
-    EXPECT_FALSE(Site().DisplayAsDefault());
-    EXPECT_EQ(Site().AmbientFont(), Font());
-    EXPECT_EQ(Site().ExtenderName(), u"TolvaCommand1");
-    EXPECT_EQ(Site().Parent(), nullptr);
+    for (bool container : { false, true }) {
+        if (container)
+            UseSite();
+        EXPECT_TRUE(Site().UserMode());
+        EXPECT_FALSE(Site().DisplayAsDefault());
+        EXPECT_EQ(Site().AmbientFont(), Font());
+        EXPECT_EQ(Site().ExtenderName(), u"TolvaCommand1");
+        EXPECT_EQ(Site().Parent(), nullptr);
+    }
+    command.Object().Site().SetClientSite(nullptr);
     EXPECT_EQ(Site().MessageBox(u"Invalid property value", 48), 0); // refused, nothing shown
 }
 
@@ -67,15 +73,6 @@ TEST_F(ControlSiteTest, FormattingIsTheSystemsInTheUsersLocale)
     EXPECT_EQ(today.Serial(), std::trunc(today.Serial()));
     EXPECT_EQ(today.Year(), now.wYear);
     EXPECT_EQ(today.Day(), now.wDay);
-}
-
-TEST_F(ControlSiteTest, AmbientsTheContainerLacksGiveTheDefaults)
-{
-    UseSite();
-    EXPECT_TRUE(Site().UserMode());
-    EXPECT_FALSE(Site().DisplayAsDefault());
-    EXPECT_EQ(Site().AmbientFont(), Font());
-    EXPECT_EQ(Site().ExtenderName(), u"TolvaCommand1");
 }
 
 TEST_F(ControlSiteTest, ExtenderGivesNameAndSize)

@@ -122,85 +122,50 @@ TEST_F(CommandStream, ATruncatedStreamIsRefusedAtEveryLength)
     }
 }
 
-TEST_F(CommandStream, AnotherSignatureOrVersionIsRefused)
+// Well-formed streams with one thing wrong, each with the error it is refused with.
+TEST_F(CommandStream, CorruptOrForeignStreamsAreRefused)
 {
-    std::vector<uint8_t> bytes = Encoded({ { u"Caption", Variant(u"Other") } });
-    std::vector<uint8_t> signature = bytes;
-    signature[0] = 'X';
-    ExpectRefused(signature);
-
-    std::vector<uint8_t> newer = bytes;
-    Poke<uint16_t>(newer, 4, PropertyStream::Version + 1);
-    ExpectRefused(newer, STG_E_OLDDLL);
-
-    std::vector<uint8_t> older = bytes;
-    Poke<uint16_t>(older, 4, 0);
-    ExpectRefused(older);
-}
-
-TEST_F(CommandStream, HugeOrInconsistentSizesAreRefusedWithoutReadingOn)
-{
-    std::vector<uint8_t> bytes = Encoded({ { u"Caption", Variant(u"Other") } });
-    std::vector<uint8_t> huge = bytes;
-    Poke<uint32_t>(huge, 8, 0xFFFFFFFFu);
-    ExpectRefused(huge);
-
-    std::vector<uint8_t> manyEntries = bytes;
-    Poke<uint32_t>(manyEntries, 12, 1000000u);
-    ExpectRefused(manyEntries);
-
-    std::vector<uint8_t> fewerEntries = bytes;
-    Poke<uint32_t>(fewerEntries, 12, 0u); // the entry's bytes are left over
-    ExpectRefused(fewerEntries);
-
-    // A text that claims to be longer than the stream.
-    std::vector<uint8_t> longText = bytes;
-    size_t textLength = PropertyStream::HeaderSize + 2 + 2 * 7 + 1;
-    Poke<uint32_t>(longText, textLength, 0x7FFFFFFFu);
-    ExpectRefused(longText);
-}
-
-TEST_F(CommandStream, MalformedValuesAreRefused)
-{
-    std::vector<uint8_t> bytes = Encoded({ { u"Style", Variant(int32_t(0)) } });
-    const size_t tag = PropertyStream::HeaderSize + 2 + 2 * 5;
-    std::vector<uint8_t> unknownTag = bytes;
-    unknownTag[tag] = 0x7F;
-    ExpectRefused(unknownTag);
-
-    std::vector<uint8_t> emptyKey = bytes;
-    Poke<uint16_t>(emptyKey, PropertyStream::HeaderSize, 0);
-    ExpectRefused(emptyKey);
-
-    std::vector<uint8_t> notFinite = Encoded({ { u"BackColor", Variant(1.5) } });
-    Poke<double>(notFinite, notFinite.size() - 8, std::nan(""));
-    ExpectRefused(notFinite);
-
+    const std::vector<uint8_t> caption = Encoded({ { u"Caption", Variant(u"Other") } });
+    const std::vector<uint8_t> style = Encoded({ { u"Style", Variant(int32_t(0)) } });
+    const std::vector<uint8_t> number = Encoded({ { u"BackColor", Variant(1.5) } });
     // A font entry ends in its size (8 bytes), weight, charset (2 each) and flags (1).
     const std::vector<uint8_t> font = Encoded({ { u"Font", Variant(Font()) } });
-    std::vector<uint8_t> negativeSize = font;
-    Poke<int64_t>(negativeSize, font.size() - 13, -1);
-    ExpectRefused(negativeSize);
-    std::vector<uint8_t> unknownFlag = font;
-    Poke<uint8_t>(unknownFlag, font.size() - 1, 0x80);
-    ExpectRefused(unknownFlag);
-}
+    const auto poked = [](std::vector<uint8_t> bytes, size_t offset, auto value) {
+        Poke(bytes, offset, value);
+        return bytes;
+    };
+    std::vector<uint8_t> twice = caption;
+    const size_t entry = caption.size() - PropertyStream::HeaderSize;
+    twice.insert(twice.end(), caption.begin() + PropertyStream::HeaderSize, caption.end());
+    Poke(twice, 8, uint32_t(2 * entry));
+    Poke(twice, 12, 2u);
 
-TEST_F(CommandStream, TheSameKeyTwiceIsRefused)
-{
-    std::vector<uint8_t> twice = Encoded({ { u"Caption", Variant(u"a") } });
-    std::vector<uint8_t> entry(twice.begin() + PropertyStream::HeaderSize, twice.end());
-    twice.insert(twice.end(), entry.begin(), entry.end());
-    Poke<uint32_t>(twice, 8, uint32_t(2 * entry.size()));
-    Poke<uint32_t>(twice, 12, 2u);
-    ExpectRefused(twice);
-}
-
-TEST_F(CommandStream, WellFormedValuesOfTheWrongTypeAreRefused)
-{
-    ExpectRefused(
-        Encoded({ { u"BackColor", Variant(int32_t(9)) }, { u"Font", Variant(u"Arial") } }), HRESULT(0x800A000D));
-    ExpectRefused(Encoded({ { u"Style", Variant(u"menu") } }), HRESULT(0x800A000D));
+    const struct {
+        const char* what;
+        std::vector<uint8_t> bytes;
+        HRESULT refusal = STG_E_DOCFILECORRUPT;
+    } cases[] = {
+        { "another signature", poked(caption, 0, uint8_t('X')) },
+        { "a newer version", poked(caption, 4, uint16_t(PropertyStream::Version + 1)), STG_E_OLDDLL },
+        { "an older version", poked(caption, 4, uint16_t(0)) },
+        { "a huge size, not read on", poked(caption, 8, 0xFFFFFFFFu) },
+        { "more entries than bytes", poked(caption, 12, 1000000u) },
+        { "bytes left over after the entries", poked(caption, 12, 0u) },
+        { "a text longer than the stream", poked(caption, PropertyStream::HeaderSize + 2 + 2 * 7 + 1, 0x7FFFFFFFu) },
+        { "an unknown tag", poked(style, PropertyStream::HeaderSize + 2 + 2 * 5, uint8_t(0x7F)) },
+        { "an empty key", poked(style, PropertyStream::HeaderSize, uint16_t(0)) },
+        { "a number that is not finite", poked(number, number.size() - 8, std::nan("")) },
+        { "a negative font size", poked(font, font.size() - 13, int64_t(-1)) },
+        { "an unknown font flag", poked(font, font.size() - 1, uint8_t(0x80)) },
+        { "the same key twice", twice },
+        { "a font that is text", Encoded({ { u"BackColor", Variant(int32_t(9)) }, { u"Font", Variant(u"Arial") } }),
+            HRESULT(0x800A000D) },
+        { "a style that is text", Encoded({ { u"Style", Variant(u"menu") } }), HRESULT(0x800A000D) },
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        ExpectRefused(c.bytes, c.refusal);
+    }
 }
 
 TEST_F(CommandStream, ARefusedStreamLeavesAnErrorObject)

@@ -1,6 +1,6 @@
 // TolvaTabs through IDispatch, its connection point and its persistence interfaces, without a
 // container: indexed members, Change and its rCancel by reference, run-time errors for indexes
-// outside the arrays, and the tab arrays in a property bag and a stream.
+// outside the arrays, and the keys of the tab arrays in a property bag.
 #include "controls/tabs/tolva_tabs.h"
 #include "platform/win32/com/bstr.h"
 #include "tests/win32/support/dispatch_helpers.h"
@@ -52,31 +52,6 @@ protected:
     IDispatch* d = tabs.Dispatch();
     ComPtr<EventSink> sink = ComPtr<EventSink>::Adopt(new EventSink(*TolvaTabsClass.eventIid));
 };
-
-TEST_F(TabsObject, DispatchIdsFollowTheLibrarysNumbering)
-{
-    const std::pair<const wchar_t*, DISPID> ids[] = {
-        { L"BackColor", 0x68030000 },
-        { L"ForeColor", 0x68030001 },
-        { L"Enabled", 0x68030002 },
-        { L"Font", 0x68030003 },
-        { L"BorderColor", 0x68030004 },
-        { L"TabCount", 0x68030005 },
-        { L"Tabs", 0x68030006 },
-        { L"SelectedItem", 0x68030007 },
-        { L"TabData", 0x68030008 },
-        { L"BackColorInactive", 0x68030009 },
-        { L"BackColorBehind", 0x6803000A },
-        { L"TabWidth", 0x6803000B },
-        { L"Clear", 0x60030010 },
-        { L"Refresh", 0x60030011 },
-        { L"AddItem", 0x60030012 },
-        { L"RemoveItem", 0x60030013 },
-        { L"AboutBox", -552 },
-    };
-    for (auto [name, id] : ids)
-        EXPECT_EQ(IdOf(d, name), id) << ToUtf8(ViewOf(name));
-}
 
 TEST_F(TabsObject, IndexedMembersTakeTheirIndexBeforeTheValue)
 {
@@ -162,19 +137,6 @@ TEST_F(TabsObject, TheTabArraysAreSavedAsCountedKeysInTheirPlaces)
     EXPECT_EQ(bag->Reads(), KeyOrder);
     EXPECT_EQ(loaded.Core().Tabs(1), u"&General");
     EXPECT_EQ(loaded.Core().TabData(2), -7);
-}
-
-TEST_F(TabsObject, ABagWithArraysItCannotHoldLeavesItAsItWas)
-{
-    AddTabs({ L"Kept" });
-    for (LONG count : { -1L, 2000000000L }) {
-        auto bag = ComPtr<RecordingPropertyBag>::Adopt(new RecordingPropertyBag);
-        bag->Put(L"TabsCount", Long(count));
-        bag->Put(L"TabCount", Long(5));
-        EXPECT_TRUE(FAILED(LoadBag(tabs.Unknown(), bag.Get())));
-    }
-    EXPECT_EQ(Read(L"TabCount"), 1);
-    EXPECT_EQ(Caption(1), L"Kept");
 }
 
 } // namespace

@@ -21,6 +21,15 @@ HRESULT InvokeInOrder(IDispatch* object, DISPID id, WORD flags, std::span<VARIAN
     return object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &params, result, exception, argumentError);
 }
 
+// A value of type, filled in by set.
+template <class Set> VARIANT Made(VARTYPE type, Set set)
+{
+    VARIANT v;
+    V_VT(&v) = type;
+    set(v);
+    return v;
+}
+
 } // namespace
 
 HRESULT InvokeWith(IDispatch* object, DISPID id, WORD flags, std::initializer_list<VARIANT> arguments, bool namedValue,
@@ -78,41 +87,27 @@ ExceptionInfo::~ExceptionInfo()
 
 VARIANT Long(LONG value)
 {
-    VARIANT v;
-    V_VT(&v) = VT_I4;
-    V_I4(&v) = value;
-    return v;
+    return Made(VT_I4, [value](VARIANT& v) { V_I4(&v) = value; });
 }
 
 VARIANT Short(SHORT value)
 {
-    VARIANT v;
-    V_VT(&v) = VT_I2;
-    V_I2(&v) = value;
-    return v;
+    return Made(VT_I2, [value](VARIANT& v) { V_I2(&v) = value; });
 }
 
 VARIANT Double(double value)
 {
-    VARIANT v;
-    V_VT(&v) = VT_R8;
-    V_R8(&v) = value;
-    return v;
+    return Made(VT_R8, [value](VARIANT& v) { V_R8(&v) = value; });
 }
 
 VARIANT Bool(bool value)
 {
-    VARIANT v;
-    V_VT(&v) = VT_BOOL;
-    V_BOOL(&v) = value ? VARIANT_TRUE : VARIANT_FALSE;
-    return v;
+    return Made(VT_BOOL, [value](VARIANT& v) { V_BOOL(&v) = value ? VARIANT_TRUE : VARIANT_FALSE; });
 }
 
 TextArgument::TextArgument(const wchar_t* text)
-{
-    V_VT(&m_value) = VT_BSTR;
-    V_BSTR(&m_value) = SysAllocString(text);
-}
+    : m_value(Made(VT_BSTR, [text](VARIANT& v) { V_BSTR(&v) = SysAllocString(text); }))
+{ }
 
 TextArgument::~TextArgument()
 {
@@ -126,26 +121,17 @@ TextArgument Text(const wchar_t* value)
 
 VARIANT BorrowedText(BSTR value)
 {
-    VARIANT v;
-    V_VT(&v) = VT_BSTR;
-    V_BSTR(&v) = value;
-    return v;
+    return Made(VT_BSTR, [value](VARIANT& v) { V_BSTR(&v) = value; });
 }
 
 VARIANT Object(IDispatch* value)
 {
-    VARIANT v;
-    V_VT(&v) = VT_DISPATCH;
-    V_DISPATCH(&v) = value;
-    return v;
+    return Made(VT_DISPATCH, [value](VARIANT& v) { V_DISPATCH(&v) = value; });
 }
 
 VARIANT Missing()
 {
-    VARIANT v;
-    V_VT(&v) = VT_ERROR;
-    V_ERROR(&v) = DISP_E_PARAMNOTFOUND;
-    return v;
+    return Made(VT_ERROR, [](VARIANT& v) { V_ERROR(&v) = DISP_E_PARAMNOTFOUND; });
 }
 
 LONG AsLong(const OleVariant& value)
