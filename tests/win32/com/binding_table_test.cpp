@@ -2,6 +2,7 @@
 // exactly what Invoke does.
 #include "controls/command/tolva_command.h"
 #include "controls/input/tolva_input_enums.h"
+#include "controls/label/tolva_label_enums.h"
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/control_class.h"
 #include "platform/win32/com/type_library.h"
@@ -189,45 +190,80 @@ TEST_P(BindingTable, CoclassNamesItsDispatchAndEventInterfaces)
 
 INSTANTIATE_TEST_SUITE_P(AllControls, BindingTable, testing::ValuesIn(ControlClasses()), test::ClassName);
 
-// The values of an enumeration in the type library.
-std::map<std::wstring, LONG> EnumValues(const wchar_t* enumName)
+// What the type library holds under a name: a type, or nothing.
+ComPtr<ITypeInfo> Named(const wchar_t* typeName)
 {
-    ComPtr<ITypeLib> library = TypeLibrary::Get();
     ComPtr<ITypeInfo> info;
     MEMBERID id = 0;
     USHORT found = 1;
-    std::wstring name = enumName;
-    library->FindName(name.data(), 0, info.Put(), &id, &found);
-    return found ? EnumerationValues(info.Get()) : std::map<std::wstring, LONG> {};
+    std::wstring name = typeName;
+    TypeLibrary::Get()->FindName(name.data(), 0, info.Put(), &id, &found);
+    return found ? info : ComPtr<ITypeInfo>();
 }
 
-TEST(TypeLibraryEnums, MatchTheCoreConstants)
+std::map<std::wstring, LONG> EnumValues(const wchar_t* enumName)
 {
-    EXPECT_EQ(EnumValues(L"tkStyle"),
-        (std::map<std::wstring, LONG> { { L"tkNormal", tkStyle::tkNormal }, { L"tkMenu", tkStyle::tkMenu } }));
+    ComPtr<ITypeInfo> info = Named(enumName);
+    return info ? EnumerationValues(info.Get()) : std::map<std::wstring, LONG> {};
+}
+
+TEST(TypeLibraryEnums, MatchTheCoreConstantsEvenWhereNamesRepeat)
+{
+    using Values = std::map<std::wstring, LONG>;
+    EXPECT_EQ(EnumValues(L"tkStyle"), (Values { { L"tkNormal", tkStyle::tkNormal }, { L"tkMenu", tkStyle::tkMenu } }));
     EXPECT_EQ(EnumValues(L"tkCommandAlignment"),
-        (std::map<std::wstring, LONG> {
-            { L"tkLeft", tkCommandAlignment::tkLeft }, { L"tkCenter", tkCommandAlignment::tkCenter } }));
+        (Values { { L"tkLeft", tkCommandAlignment::tkLeft }, { L"tkCenter", tkCommandAlignment::tkCenter } }));
     EXPECT_EQ(EnumValues(L"tkInputStyles"),
-        (std::map<std::wstring, LONG> { { L"tkTextBox", tkInputStyles::tkTextBox },
-            { L"tkCalendar", tkInputStyles::tkCalendar }, { L"tkCalculator", tkInputStyles::tkCalculator },
-            { L"tkCombo", tkInputStyles::tkCombo } }));
+        (Values { { L"tkTextBox", tkInputStyles::tkTextBox }, { L"tkCalendar", tkInputStyles::tkCalendar },
+            { L"tkCalculator", tkInputStyles::tkCalculator }, { L"tkCombo", tkInputStyles::tkCombo } }));
+    EXPECT_EQ(EnumValues(L"tkLabelBorderStyle"),
+        (Values { { L"None", tkLabelBorderStyle::None }, { L"Inset", tkLabelBorderStyle::Inset } }));
+    EXPECT_EQ(EnumValues(L"tkLabelAlignment"),
+        (Values { { L"tkAlignLeft", tkLabelAlignment::tkAlignLeft },
+            { L"tkAlignCenter", tkLabelAlignment::tkAlignCenter } }));
+    EXPECT_EQ(EnumValues(L"tkArrowIcon"),
+        (Values { { L"tkArrowLeft", tkArrowIcon::tkArrowLeft }, { L"tkArrowRight", tkArrowIcon::tkArrowRight },
+            { L"tkArrowUp", tkArrowIcon::tkArrowUp }, { L"tkArrowDown", tkArrowIcon::tkArrowDown },
+            { L"tkPointerLeft", tkArrowIcon::tkPointerLeft }, { L"tkPointerRight", tkArrowIcon::tkPointerRight } }));
+    // tkLeft is 1 here and 0 in tkCommandAlignment: each enumeration keeps its own.
+    EXPECT_EQ(EnumValues(L"tkArrowPosition"),
+        (Values { { L"tkNone", tkArrowPosition::tkNone }, { L"tkLeft", tkArrowPosition::tkLeft },
+            { L"tkRight", tkArrowPosition::tkRight }, { L"tkEnd", tkArrowPosition::tkEnd } }));
 }
 
-TEST(TypeLibraryEvents, CommandEventsTakeShortsAndSinglesByReference)
+// The events as handlers are declared: by id, the name and the parameters, every one by reference.
+using Events = std::map<DISPID, std::pair<std::wstring, std::vector<std::wstring>>>;
+
+Events DeclaredEvents(const ControlClass& c)
 {
-    auto declared = DeclaredMembers(TypeLibrary::InfoOf(*TolvaCommandClass.eventIid).Get());
-    auto event = [&declared](DISPID id) { return declared[std::make_pair(id, INVOKE_FUNC)]; };
+    Events events;
+    for (const auto& [key, declared] : DeclaredMembers(TypeLibrary::InfoOf(*c.eventIid).Get()))
+        events[key.first] = { declared.name, declared.parameters };
+    return events;
+}
+
+TEST(TypeLibraryEvents, MouseAndKeyEventsTakeShortsAndSinglesByReference)
+{
     const std::vector<std::wstring> mouse = { L"short*", L"short*", L"float*", L"float*" };
     const std::vector<std::wstring> keys = { L"short*", L"short*" };
-    EXPECT_EQ(event(1).name, L"Click");
-    EXPECT_EQ(event(2).name, L"DblClick");
-    EXPECT_EQ(event(3).parameters, keys);
-    EXPECT_EQ(event(4).parameters, std::vector<std::wstring> { L"short*" });
-    EXPECT_EQ(event(5).parameters, keys);
-    for (DISPID id : { 6, 7, 8 })
-        EXPECT_EQ(event(id).parameters, mouse) << id;
-    EXPECT_EQ(declared.size(), 8u);
+    EXPECT_EQ(DeclaredEvents(TolvaCommandClass),
+        (Events { { 1, { L"Click", {} } }, { 2, { L"DblClick", {} } }, { 3, { L"KeyDown", keys } },
+            { 4, { L"KeyPress", { L"short*" } } }, { 5, { L"KeyUp", keys } }, { 6, { L"MouseDown", mouse } },
+            { 7, { L"MouseMove", mouse } }, { 8, { L"MouseUp", mouse } } }));
+    // The label's are the five mouse events; the scroll bar's add Change and Scroll last.
+    const Events mouseEvents = { { 1, { L"Click", {} } }, { 2, { L"DblClick", {} } }, { 3, { L"MouseDown", mouse } },
+        { 4, { L"MouseMove", mouse } }, { 5, { L"MouseUp", mouse } } };
+    EXPECT_EQ(DeclaredEvents(TolvaLabelClass), mouseEvents);
+    Events scroll = mouseEvents;
+    scroll[6] = { L"Change", {} };
+    scroll[7] = { L"Scroll", {} };
+    EXPECT_EQ(DeclaredEvents(TolvaScrollClass), scroll);
+}
+
+TEST(TypeLibrary, TheScrollBarsSliderIsNotPublished)
+{
+    EXPECT_FALSE(Named(L"ctlScrollBox"));
+    EXPECT_FALSE(Named(L"picSlider"));
 }
 
 } // namespace

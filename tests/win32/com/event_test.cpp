@@ -67,17 +67,6 @@ TEST_F(CommandEvents, ChangesTheSinkMakesToByReferenceArgumentsReachTheControl)
     EXPECT_EQ(shift, 4);
 }
 
-TEST_F(CommandEvents, SpaceShowsThePressAndClicksOnRelease)
-{
-    int16_t space = 32, shift = 0;
-    command.Input().OnKeyDown(space, shift);
-    EXPECT_TRUE(command.Control().Mouse().pushed);
-    command.Input().OnKeyUp(space, shift);
-    EXPECT_FALSE(command.Control().Mouse().pushed);
-    EXPECT_EQ(sink->Ids(), (std::vector<DISPID> { MouseDown, KeyDown, Click, MouseUp, KeyUp }));
-    EXPECT_EQ(sink->Events()[0].values, (std::vector<double> { 1, 0, 0, 0 }));
-}
-
 TEST_F(CommandEvents, EveryConnectedSinkHearsAndAnUnadvisedOneDoesNot)
 {
     auto second = ComPtr<EventSink>::Adopt(new EventSink(*TolvaCommandClass.eventIid));

@@ -1,13 +1,10 @@
 // TolvaLabel through IDispatch and its connection point, as a client of the type library meets it.
 #include "controls/label/tolva_label.h"
 #include "platform/win32/com/bstr.h"
-#include "platform/win32/com/type_library.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
 #include "tests/win32/support/hosted_object.h"
-#include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
-#include <map>
 #include <olectl.h>
 
 namespace tolva::win32::test {
@@ -68,60 +65,6 @@ TEST_F(LabelObject, OtherEnumerationsStoreWhateverTheyAreGiven)
     EXPECT_EQ(Put(d, L"Alignment", Long(-4)), S_OK);
     EXPECT_EQ(label.Core().ArrowIcon(), 9);
     EXPECT_EQ(label.Core().Alignment(), -4);
-}
-
-// The values of the enumeration that property id of the label's dispinterface is declared with.
-std::map<std::wstring, LONG> EnumOfProperty(DISPID id)
-{
-    ComPtr<ITypeInfo> dispatch = TypeLibrary::InfoOf(*TolvaLabelClass.dispatchIid);
-    std::map<std::wstring, LONG> values;
-    ForEachFunction(dispatch.Get(), [&](const FUNCDESC& function) {
-        const TYPEDESC& type = function.elemdescFunc.tdesc;
-        if (function.memid != id || function.invkind != INVOKE_PROPERTYGET || type.vt != VT_USERDEFINED)
-            return;
-        ComPtr<ITypeInfo> enumeration;
-        dispatch->GetRefTypeInfo(type.hreftype, enumeration.Put());
-        values = EnumerationValues(enumeration.Get());
-    });
-    return values;
-}
-
-TEST(LabelTypeLibrary, EnumerationsMatchTheCoreConstantsEvenWhereNamesRepeat)
-{
-    using Values = std::map<std::wstring, LONG>;
-    EXPECT_EQ(EnumOfProperty(0x68030009),
-        (Values { { L"None", tkLabelBorderStyle::None }, { L"Inset", tkLabelBorderStyle::Inset } }));
-    EXPECT_EQ(EnumOfProperty(0x6803000F),
-        (Values { { L"tkAlignLeft", tkLabelAlignment::tkAlignLeft },
-            { L"tkAlignCenter", tkLabelAlignment::tkAlignCenter } }));
-    EXPECT_EQ(EnumOfProperty(0x68030004),
-        (Values { { L"tkArrowLeft", tkArrowIcon::tkArrowLeft }, { L"tkArrowRight", tkArrowIcon::tkArrowRight },
-            { L"tkArrowUp", tkArrowIcon::tkArrowUp }, { L"tkArrowDown", tkArrowIcon::tkArrowDown },
-            { L"tkPointerLeft", tkArrowIcon::tkPointerLeft }, { L"tkPointerRight", tkArrowIcon::tkPointerRight } }));
-    // tkLeft is 1 here and 0 in tkCommandAlignment: each enumeration keeps its own.
-    EXPECT_EQ(EnumOfProperty(0x68030003),
-        (Values { { L"tkNone", tkArrowPosition::tkNone }, { L"tkLeft", tkArrowPosition::tkLeft },
-            { L"tkRight", tkArrowPosition::tkRight }, { L"tkEnd", tkArrowPosition::tkEnd } }));
-}
-
-TEST(LabelTypeLibrary, EventsAreTheFiveMouseEventsWithArgumentsByReference)
-{
-    ComPtr<ITypeInfo> events = TypeLibrary::InfoOf(*TolvaLabelClass.eventIid);
-    std::map<DISPID, std::pair<std::wstring, std::vector<VARTYPE>>> declared;
-    ForEachFunction(events.Get(), [&](const FUNCDESC& function) {
-        std::vector<VARTYPE> parameters;
-        for (SHORT p = 0; p < function.cParams; ++p) {
-            const TYPEDESC& t = function.lprgelemdescParam[p].tdesc;
-            parameters.push_back(t.vt == VT_PTR ? VARTYPE(VT_BYREF | t.lptdesc->vt) : t.vt);
-        }
-        declared[function.memid] = { NameOf(events.Get(), function.memid), parameters };
-    });
-    const std::vector<VARTYPE> mouse = { ShortByRef, ShortByRef, SingleByRef, SingleByRef };
-    using Event = std::pair<std::wstring, std::vector<VARTYPE>>;
-    EXPECT_EQ(declared,
-        (std::map<DISPID, Event> { { Click, { L"Click", {} } }, { DblClick, { L"DblClick", {} } },
-            { MouseDown, { L"MouseDown", mouse } }, { MouseMove, { L"MouseMove", mouse } },
-            { MouseUp, { L"MouseUp", mouse } } }));
 }
 
 class LabelEvents : public LabelObject {

@@ -5,19 +5,16 @@
 // container (tests/gui).
 #include "controls/scroll/tolva_scroll.h"
 #include "platform/win32/com/bstr.h"
-#include "platform/win32/com/type_library.h"
 #include "tests/win32/support/dispatch_helpers.h"
 #include "tests/win32/support/event_sink.h"
 #include "tests/win32/support/hosted_object.h"
 #include "tests/win32/support/persistence.h"
-#include "tests/win32/support/type_info_reading.h"
 #include <gtest/gtest.h>
-#include <map>
 
 namespace tolva::win32::test {
 namespace {
 
-constexpr DISPID Change = 6, Scroll = 7;
+constexpr DISPID Change = 6;
 
 class ScrollObject : public testing::Test {
 protected:
@@ -87,32 +84,6 @@ TEST_F(ScrollObject, LoadedNumbersAreStoredUncheckedAndRaiseNothing)
     EXPECT_EQ(scroll.Core().Max(), 10);
     EXPECT_EQ(scroll.Core().SmallChange(), -4);
     EXPECT_TRUE(sink->Ids().empty());
-}
-
-TEST(ScrollTypeLibrary, EventsAreDeclaredInTheirOrderWithChangeAndScrollLast)
-{
-    ComPtr<ITypeInfo> events = TypeLibrary::InfoOf(*TolvaScrollClass.eventIid);
-    std::map<DISPID, std::pair<std::wstring, SHORT>> declared;
-    ForEachFunction(events.Get(), [&](const FUNCDESC& function) {
-        declared[function.memid] = { NameOf(events.Get(), function.memid), function.cParams };
-    });
-    EXPECT_EQ(declared,
-        (std::map<DISPID, std::pair<std::wstring, SHORT>> { { 1, { L"Click", 0 } }, { 2, { L"DblClick", 0 } },
-            { 3, { L"MouseDown", 4 } }, { 4, { L"MouseMove", 4 } }, { 5, { L"MouseUp", 4 } },
-            { Change, { L"Change", 0 } }, { Scroll, { L"Scroll", 0 } } }));
-}
-
-TEST(ScrollTypeLibrary, TheSliderControlIsNotPublished)
-{
-    ComPtr<ITypeLib> library = TypeLibrary::Get();
-    for (const wchar_t* hidden : { L"ctlScrollBox", L"picSlider" }) {
-        std::wstring name = hidden;
-        ComPtr<ITypeInfo> info;
-        MEMBERID id = 0;
-        USHORT found = 1;
-        library->FindName(name.data(), 0, info.Put(), &id, &found);
-        EXPECT_EQ(found, 0) << ToUtf8(ViewOf(hidden));
-    }
 }
 
 } // namespace
