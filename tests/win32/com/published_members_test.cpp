@@ -1,6 +1,6 @@
 // What hosts compile and script against, class by class: the published dispatch ids, found by
-// name in any case, and what every property of a new object without a container reads, with its
-// automation type.
+// name in any case, what every property of a new object without a container reads, with its
+// automation type, and that every member of every class is found by its name and answers.
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/control_object.h"
 #include "tests/win32/support/command_object.h"
@@ -175,22 +175,51 @@ TEST(PublishedMembers, ANewObjectWithoutAContainerReadsTheDefaults)
     }
 }
 
-// Refresh, AboutBox and the other methods without arguments: without a container nothing is
-// shown, so nothing modal blocks a script.
-class EveryControlsMethods : public testing::TestWithParam<const ControlClass*> { };
-
-TEST_P(EveryControlsMethods, WithoutArgumentsAnswerWithoutAContainer)
+// A member called as a client first tries it: a method without arguments, a property read, an
+// indexed one at index 0 of every index.
+HRESULT Try(IDispatch* d, const DispatchMember& member, OleVariant& result, EXCEPINFO* exception)
 {
-    ComPtr<IDispatch> d = NewObject(*GetParam());
-    for (const DispatchMember& member : GetParam()->members) {
-        if (!member.isMethod || !member.parameters.empty())
-            continue;
-        OleVariant result;
-        EXPECT_EQ(Call(d.Get(), member.id, DISPATCH_METHOD, {}, result), S_OK) << ToUtf8(FromWide(member.name));
+    const WORD flags = member.isMethod ? DISPATCH_METHOD : DISPATCH_PROPERTYGET;
+    switch (member.parameters.size()) {
+    case 0:
+        return Call(d, member.id, flags, {}, result, exception);
+    case 1:
+        return Call(d, member.id, flags, { Long(0) }, result, exception);
+    default:
+        return Call(d, member.id, flags, { Long(0), Long(0) }, result, exception);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryControl, EveryControlsMethods, testing::ValuesIn(ControlClasses()), ClassName);
+// Every member of a new object without a container: its name gives its id; a method without
+// arguments answers (Refresh and AboutBox show nothing, so nothing modal blocks a script); a
+// property reads a value, or, indexed where a new control has no element 0, raises an automation
+// error with its description (the run time's subscript error, or the list's own).
+class EveryMember : public testing::TestWithParam<const ControlClass*> { };
+
+TEST_P(EveryMember, IsFoundByNameAndAnswersOnANewObject)
+{
+    ComPtr<IDispatch> d = NewObject(*GetParam());
+    for (const DispatchMember& member : GetParam()->members) {
+        SCOPED_TRACE(ToUtf8(FromWide(member.name)));
+        EXPECT_EQ(IdOf(d.Get(), member.name), member.id);
+        if (member.isMethod && !member.parameters.empty())
+            continue;
+        OleVariant result;
+        ExceptionInfo exception;
+        const HRESULT hr = Try(d.Get(), member, result, &exception);
+        if (!member.parameters.empty() && hr == DISP_E_EXCEPTION) {
+            EXPECT_TRUE(FAILED(exception.scode));
+            EXPECT_NE(exception.bstrDescription, nullptr);
+            continue;
+        }
+        EXPECT_EQ(hr, S_OK);
+        if (!member.isMethod) {
+            EXPECT_NE(result.Type(), VT_EMPTY);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryControl, EveryMember, testing::ValuesIn(ControlClasses()), ClassName);
 
 } // namespace
 } // namespace tolva::win32::test
