@@ -1,7 +1,9 @@
 #include "command_test_fixture.h"
 #include "core/twips_canvas.h"
 #include "platform/headless/raster_canvas.h"
+#include "tests/unit/support/picture.h"
 #include <cmath>
+#include <functional>
 
 namespace tolva::testing {
 namespace {
@@ -77,45 +79,64 @@ protected:
         return int32_t(std::nearbyint(twips / 15));
     }
 
-    void ExpectFrame() const
+    // The button as runs of named colours (see Runs): k black, g grey, n normal, h hot, p pushed.
+    std::vector<std::string> Picture() const
     {
-        for (int32_t x = 0; x < 120; ++x) {
-            EXPECT_EQ(At(x, 0), Black) << x;
-            EXPECT_EQ(At(x, 29), Black) << x;
-        }
-        for (int32_t y = 0; y < 30; ++y) {
-            EXPECT_EQ(At(0, y), Black) << y;
-            EXPECT_EQ(At(119, y), Black) << y;
-        }
+        return Runs(surface.WindowImage(), { { Black, 'k' }, { Grey, 'g' }, { Normal, 'n' }, { Hot, 'h' }, { Pushed, 'p' } });
+    }
+    // The one-pixel black frame around a fill of one colour.
+    static std::vector<std::string> Framed(char fill)
+    {
+        return { "0: k120", "1-28: k1 " + std::string(1, fill) + "118 k1", "29: k120" };
     }
 };
 
-// The three looks.
-
-TEST_F(CommandDrawTest, NormalLookIsTheBackColourInsideAOnePixelBlackFrame)
+// The looks by state, with an empty caption: the back colours inside a one-pixel black frame;
+// the focus adds a black box one pixel in and a grey box three pixels in, the default button the
+// black box alone; the menu style a downward triangle near the right edge.
+TEST_F(CommandDrawTest, EachStateHasItsLook)
 {
-    ExpectFrame();
-    EXPECT_EQ(At(1, 1), Normal);
-    EXPECT_EQ(At(3, 3), Normal);
-    EXPECT_EQ(At(118, 28), Normal);
-    EXPECT_EQ(Ink(Normal).left, 6 + ReferenceInk(u"TolvaCommand3").left) << "the caption is drawn in black";
-}
-
-TEST_F(CommandDrawTest, PointerOverTheButtonShowsTheActiveBackground)
-{
-    surface.MouseMove(0, 0, 900, 200);
-    ExpectFrame();
-    EXPECT_EQ(At(1, 1), Hot);
-    EXPECT_EQ(At(118, 28), Hot);
-}
-
-TEST_F(CommandDrawTest, LeftButtonDownShowsThePushedBackgroundEvenWhileHot)
-{
-    surface.MouseMove(0, 0, 900, 200);
-    surface.MouseDown(1, 0, 900, 200);
-    ExpectFrame();
-    EXPECT_EQ(At(1, 1), Pushed);
-    EXPECT_EQ(At(118, 28), Pushed);
+    button.SetCaption(u"");
+    const struct {
+        const char* step;
+        std::function<void()> act;
+        std::vector<std::string> look;
+    } steps[] = {
+        { "new", [] {}, Framed('n') },
+        { "hot", [&] { surface.MouseMove(0, 0, 900, 200); }, Framed('h') },
+        { "pushed while hot", [&] { surface.MouseDown(1, 0, 900, 200); }, Framed('p') },
+        { "released", [&] { surface.MouseUp(1, 0, 900, 200); }, Framed('n') },
+        { "focused", [&] { surface.SetFocus(); },
+            { "0-1: k120", "2: k2 n116 k2", "3: k2 n1 g114 n1 k2", "4-25: k2 n1 g1 n112 g1 n1 k2",
+                "26: k2 n1 g114 n1 k2", "27: k2 n116 k2", "28-29: k120" } },
+        { "default",
+            [&] {
+                tree.SetFocus(nullptr);
+                site.displayAsDefault = true;
+                surface.AmbientChanged(u"DisplayAsDefault");
+            },
+            { "0-1: k120", "2-27: k2 n116 k2", "28-29: k120" } },
+        // x0 = 1800 - 165 twips = pixel 109, y0 = 450 \ 2 - 30 twips = pixel 13.
+        { "menu",
+            [&] {
+                site.displayAsDefault = false;
+                button.SetStyle(tkStyle::tkMenu);
+            },
+            { "0: k120", "1-12: k1 n118 k1", "13: k1 n108 k7 n3 k1", "14: k1 n109 k5 n4 k1", "15: k1 n110 k3 n5 k1",
+                "16: k1 n111 k1 n6 k1", "17-28: k1 n118 k1", "29: k120" } },
+        // x0 = 3000 - 165 twips = pixel 189, y0 = 300 - 30 twips = pixel 18.
+        { "resized menu",
+            [&] {
+                surface.Resize(3000, 600);
+                surface.Paint();
+            },
+            { "0: k200", "1-17: k1 n198 k1", "18: k1 n188 k7 n3 k1", "19: k1 n189 k5 n4 k1", "20: k1 n190 k3 n5 k1",
+                "21: k1 n191 k1 n6 k1", "22-38: k1 n198 k1", "39: k200" } },
+    };
+    for (const auto& step : steps) {
+        step.act();
+        EXPECT_EQ(Picture(), step.look) << step.step;
+    }
 }
 
 TEST_F(CommandDrawTest, ColoursComeFromTheProperties)
@@ -156,101 +177,23 @@ TEST_F(CommandDrawTest, DisabledButtonDrawsItsTextInTheDisabledColourOnTheNormal
     EXPECT_EQ(Count(Black), ink);
 }
 
-// Marks.
-
-TEST_F(CommandDrawTest, FocusShowsABlackBoxOnePixelInAndAGreyBoxThreePixelsIn)
-{
-    surface.SetFocus();
-    ExpectFrame();
-    for (int32_t x = 1; x <= 118; ++x) {
-        EXPECT_EQ(At(x, 1), Black) << x;
-        EXPECT_EQ(At(x, 28), Black) << x;
-    }
-    for (int32_t y = 1; y <= 28; ++y) {
-        EXPECT_EQ(At(1, y), Black) << y;
-        EXPECT_EQ(At(118, y), Black) << y;
-    }
-    for (int32_t x = 3; x <= 116; ++x) {
-        EXPECT_EQ(At(x, 3), Grey) << x;
-        EXPECT_EQ(At(x, 26), Grey) << x;
-    }
-    for (int32_t y = 3; y <= 26; ++y) {
-        EXPECT_EQ(At(3, y), Grey) << y;
-        EXPECT_EQ(At(116, y), Grey) << y;
-    }
-    EXPECT_EQ(At(2, 2), Normal);
-    EXPECT_EQ(At(4, 4), Normal);
-}
-
-TEST_F(CommandDrawTest, FocusMarkGoesWithTheFocus)
-{
-    headless::HeadlessSurface other { tree };
-    surface.SetFocus();
-    other.SetFocus();
-    EXPECT_EQ(At(1, 1), Normal);
-    EXPECT_EQ(At(3, 3), Normal);
-}
-
-TEST_F(CommandDrawTest, DefaultButtonShowsOnlyTheInnerBlackBox)
-{
-    site.displayAsDefault = true;
-    surface.AmbientChanged(u"DisplayAsDefault");
-    EXPECT_EQ(At(1, 1), Black);
-    EXPECT_EQ(At(60, 28), Black);
-    EXPECT_EQ(At(118, 15), Black);
-    EXPECT_EQ(At(2, 2), Normal);
-    EXPECT_EQ(At(3, 3), Normal) << "no grey box without the focus";
-}
-
-TEST_F(CommandDrawTest, MenuStyleDrawsADownwardTriangleNearTheRightEdge)
-{
-    EXPECT_EQ(At(112, 13), Normal);
-    button.SetStyle(tkStyle::tkMenu);
-    // x0 = 1800 - 165 twips = pixel 109, y0 = 450 \ 2 - 30 twips = pixel 13.
-    const struct {
-        int32_t y, first, last;
-    } rows[] = { { 13, 109, 115 }, { 14, 110, 114 }, { 15, 111, 113 }, { 16, 112, 112 } };
-    for (const auto& row : rows) {
-        EXPECT_EQ(At(row.first - 1, row.y), Normal) << row.y;
-        for (int32_t x = row.first; x <= row.last; ++x)
-            EXPECT_EQ(At(x, row.y), Black) << x << "," << row.y;
-        EXPECT_EQ(At(row.last + 1, row.y), Normal) << row.y;
-    }
-    EXPECT_EQ(At(112, 12), Normal);
-    EXPECT_EQ(At(112, 17), Normal);
-}
-
 // Caption placement.
 
-TEST_F(CommandDrawTest, LeftAlignedCaptionStartsSixPixelsInAndSitsOnePixelAboveTheMiddle)
+// Left-aligned captions start six pixels in, centred ones are centred on the width, and an
+// unknown alignment is kept and draws at the left; every caption sits one pixel above the middle.
+TEST_F(CommandDrawTest, TheCaptionIsPlacedByTheAlignment)
 {
     button.SetCaption(u"Hello");
     const InkBounds reference = ReferenceInk(u"Hello");
-    const InkBounds ink = Ink(Normal);
-    EXPECT_EQ(ink.left, 6 + reference.left);
-    EXPECT_EQ(ink.top, TextTop() + reference.top);
-    EXPECT_EQ(ink.right - ink.left, reference.right - reference.left);
-}
-
-TEST_F(CommandDrawTest, CentredCaptionIsCentredOnTheWidth)
-{
-    button.SetCaption(u"Hello");
-    button.SetAlignment(tkCommandAlignment::tkCenter);
-    const InkBounds reference = ReferenceInk(u"Hello");
-    const int32_t width = Measure(u"Hello").width;
-    const auto origin = int32_t(std::nearbyint((900.0f - float(width * 15) / 2) / 15));
-    const InkBounds ink = Ink(Normal);
-    EXPECT_EQ(ink.left, origin + reference.left);
-    EXPECT_EQ(ink.top, TextTop() + reference.top);
-    EXPECT_LE(std::abs(ink.left - (119 - ink.right)), 3) << "as much room on either side";
-}
-
-TEST_F(CommandDrawTest, AnUnknownAlignmentIsKeptAndDrawsAtTheLeft)
-{
-    button.SetCaption(u"Hello");
-    button.SetAlignment(7);
-    EXPECT_EQ(button.Alignment(), 7);
-    EXPECT_EQ(Ink(Normal).left, 6 + ReferenceInk(u"Hello").left);
+    const int32_t centred = int32_t(std::nearbyint((900.0f - float(Measure(u"Hello").width * 15) / 2) / 15));
+    for (const auto& [alignment, origin] : { std::pair { 0, 6 }, { 1, centred }, { 7, 6 } }) {
+        button.SetAlignment(alignment);
+        EXPECT_EQ(button.Alignment(), alignment);
+        const InkBounds ink = Ink(Normal);
+        EXPECT_EQ(ink.left, origin + reference.left) << alignment;
+        EXPECT_EQ(ink.top, TextTop() + reference.top) << alignment;
+        EXPECT_EQ(ink.right - ink.left, reference.right - reference.left) << alignment;
+    }
 }
 
 TEST_F(CommandDrawTest, OnlyTheAccessCharacterIsUnderlined)
@@ -272,6 +215,8 @@ TEST_F(CommandDrawTest, OnlyTheAccessCharacterIsUnderlined)
         }
     }
     EXPECT_GE(underlined, Measure(u"S").width - 2);
+    button.SetCaption(u"");
+    EXPECT_EQ(surface.AccessKeys(), u"");
 }
 
 TEST_F(CommandDrawTest, AccessCharacterInTheMiddleKeepsTheTextInPlace)
@@ -286,38 +231,7 @@ TEST_F(CommandDrawTest, AccessCharacterInTheMiddleKeepsTheTextInPlace)
     EXPECT_GT(marked.bottom, plain.bottom - 1) << "the underline is at or below the text";
 }
 
-TEST_F(CommandDrawTest, EmptyCaptionDrawsOnlyTheFrameAndClearsTheAccessKey)
-{
-    button.SetCaption(u"&Go");
-    EXPECT_EQ(surface.AccessKeys(), u"G");
-    button.SetCaption(u"");
-    EXPECT_EQ(surface.AccessKeys(), u"");
-    EXPECT_EQ(Ink(Normal).count, 0);
-    ExpectFrame();
-}
-
-// Painting.
-
-TEST_F(CommandDrawTest, EveryPaintCopiesOneWholeImageToTheSurface)
-{
-    const int before = surface.PresentCount();
-    surface.Paint();
-    EXPECT_EQ(surface.PresentCount(), before + 1);
-}
-
-TEST_F(CommandDrawTest, ResizedButtonRedrawsAtItsNewSize)
-{
-    surface.Resize(3000, 600); // 200 x 40 pixels
-    surface.Paint();
-    EXPECT_EQ(At(199, 39), Black);
-    EXPECT_EQ(At(198, 38), Normal);
-    button.SetStyle(tkStyle::tkMenu);
-    // x0 = 3000 - 165 twips = pixel 189, y0 = 300 - 30 twips = pixel 18.
-    EXPECT_EQ(At(189, 18), Black);
-    EXPECT_EQ(At(195, 18), Black);
-    EXPECT_EQ(At(188, 18), Normal);
-}
-
+// Every paint copies one whole image to the surface, also at sizes too small for the marks.
 TEST_F(CommandDrawTest, TinyAndEmptySizesPaintWithoutFailing)
 {
     for (const float size : { 0.0f, 15.0f, 40.0f, 165.0f }) {

@@ -1,4 +1,5 @@
 #include "command_test_fixture.h"
+#include <functional>
 #include <limits>
 
 namespace tolva::testing {
@@ -23,14 +24,6 @@ protected:
     {
         surface.MouseDown(1, 0, 300, 150);
         surface.MouseUp(1, 0, 300, 150);
-    }
-
-    // Click and MouseUp arrive whatever became of the menu.
-    void ExpectClickWithoutMenu()
-    {
-        EXPECT_NO_THROW(Click());
-        EXPECT_TRUE(form.popupMenus.empty());
-        EXPECT_EQ(events.log, (Log { "MouseDown 1 0 300 150", "Click", "MouseUp 1 0 300 150" }));
     }
 };
 
@@ -66,64 +59,57 @@ TEST_F(CommandMenuTest, SpaceReleaseAndAccessKeyOpenItToo)
     EXPECT_EQ(form.popupMenus.size(), 2u);
 }
 
-TEST_F(CommandMenuTest, NormalStyleIgnoresTheMenuName)
+// What keeps the menu shut; Click and MouseUp arrive all the same.
+
+class CommandNoMenuTest;
+
+struct NoMenuCase {
+    const char* name;
+    std::function<void(CommandNoMenuTest&)> arrange;
+};
+
+class CommandNoMenuTest : public CommandMenuTest, public ::testing::WithParamInterface<NoMenuCase> {
+public:
+    static std::vector<NoMenuCase> Cases()
+    {
+        return {
+            { "NormalStyle", [](CommandNoMenuTest& t) { t.button.SetStyle(tkStyle::tkNormal); } },
+            { "UnknownMenuName", [](CommandNoMenuTest& t) { t.button.SetMenuName(u"mnuNowhere"); } },
+            { "EmptyMenuName", [](CommandNoMenuTest& t) { t.button.SetMenuName(u""); } },
+            { "NoForm", [](CommandNoMenuTest& t) { t.site.parent = nullptr; } },
+            { "FormLacksControls", [](CommandNoMenuTest& t) { t.form.lacksControls = true; } },
+            { "FormLacksAWindow", [](CommandNoMenuTest& t) { t.form.lacksHwnd = true; } },
+            { "FormLacksPopupMenu", [](CommandNoMenuTest& t) { t.form.lacksPopupMenu = true; } },
+            // 200,000,000 pixels is a Long, but times 15 it is not.
+            { "OffsetPast32BitsInTwips",
+                [](CommandNoMenuTest& t) {
+                    t.form.screenOrigin = { 0, 0 };
+                    t.surface.SetScreenOrigin({ 200'000'000, 0 });
+                } },
+            { "DifferencePast32Bits",
+                [](CommandNoMenuTest& t) {
+                    t.form.screenOrigin = { 1, 0 };
+                    t.surface.SetScreenOrigin({ std::numeric_limits<int32_t>::min(), 0 });
+                } },
+        };
+    }
+};
+
+TEST_P(CommandNoMenuTest, ClicksWithoutAMenu)
 {
-    button.SetStyle(tkStyle::tkNormal);
-    ExpectClickWithoutMenu();
+    GetParam().arrange(*this);
+    EXPECT_NO_THROW(Click());
+    EXPECT_TRUE(form.popupMenus.empty());
+    EXPECT_EQ(events.log, (Log { "MouseDown 1 0 300 150", "Click", "MouseUp 1 0 300 150" }));
 }
+
+INSTANTIATE_TEST_SUITE_P(Menu, CommandNoMenuTest, ::testing::ValuesIn(CommandNoMenuTest::Cases()),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CommandMenuTest, RightButtonOpensNoMenu)
 {
     surface.MouseUp(2, 0, 300, 150);
     EXPECT_TRUE(form.popupMenus.empty());
-}
-
-TEST_F(CommandMenuTest, AnUnknownOrEmptyMenuNameOpensNothing)
-{
-    button.SetMenuName(u"mnuNowhere");
-    ExpectClickWithoutMenu();
-    events.log.clear();
-    button.SetMenuName(u"");
-    ExpectClickWithoutMenu();
-}
-
-TEST_F(CommandMenuTest, ButtonWithoutAFormOpensNothing)
-{
-    site.parent = nullptr;
-    ExpectClickWithoutMenu();
-}
-
-TEST_F(CommandMenuTest, AFormLackingControlsOpensNothing)
-{
-    form.lacksControls = true;
-    ExpectClickWithoutMenu();
-}
-
-TEST_F(CommandMenuTest, AFormLackingAWindowOpensNothing)
-{
-    form.lacksHwnd = true;
-    ExpectClickWithoutMenu();
-}
-
-TEST_F(CommandMenuTest, AFormLackingPopupMenuFailsQuietly)
-{
-    form.lacksPopupMenu = true;
-    ExpectClickWithoutMenu();
-}
-
-TEST_F(CommandMenuTest, AnOffsetPastThirtyTwoBitsInTwipsOpensNothing)
-{
-    // 200,000,000 pixels is a Long, but times 15 it is not.
-    form.screenOrigin = { 0, 0 };
-    surface.SetScreenOrigin({ 200'000'000, 0 });
-    ExpectClickWithoutMenu();
-}
-
-TEST_F(CommandMenuTest, ADifferencePastThirtyTwoBitsOpensNothing)
-{
-    form.screenOrigin = { 1, 0 };
-    surface.SetScreenOrigin({ std::numeric_limits<int32_t>::min(), 0 });
-    ExpectClickWithoutMenu();
 }
 
 TEST_F(CommandMenuTest, TheLargestOffsetThatFitsStillOpens)

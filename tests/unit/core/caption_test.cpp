@@ -1,6 +1,7 @@
 #include "core/caption.h"
 #include "core/twips_canvas.h"
 #include "platform/headless/headless_surface.h"
+#include "tests/unit/support/picture.h"
 #include <gtest/gtest.h>
 #include <optional>
 
@@ -11,48 +12,35 @@ using headless::HeadlessSurface;
 using headless::RasterCanvas;
 using headless::WindowTree;
 
-TEST(ScanCaption, ADoubledAmpersandIsOneAmpersandAndNoKey)
-{
-    const ScannedCaption scanned = ScanCaption(u"Save && Close");
-    EXPECT_EQ(scanned.text, u"Save & Close");
-    EXPECT_FALSE(scanned.HasAccessKey());
-    EXPECT_EQ(scanned.Before(), u"Save & Close");
-    EXPECT_EQ(scanned.After(), u"");
-}
-
+// An ampersand marks the next character; a doubled one is one ampersand and no key, a trailing
+// one is dropped, and a later mark overrides an earlier one.
 TEST(ScanCaption, AnAmpersandMarksTheNextCharacter)
 {
-    const ScannedCaption scanned = ScanCaption(u"E&xit");
-    EXPECT_EQ(scanned.text, u"Exit");
-    EXPECT_EQ(scanned.accessPosition, 2);
-    EXPECT_EQ(scanned.AccessCharacter(), u'x');
-    EXPECT_EQ(scanned.Before(), u"E");
-    EXPECT_EQ(scanned.After(), u"it");
-    EXPECT_EQ(ScanCaption(u"&x").accessPosition, 1);
-}
+    const struct {
+        const char16_t* caption;
+        ScannedCaption scanned;
+    } cases[] = {
+        { u"E&xit", { u"Exit", 2 } },
+        { u"&x", { u"x", 1 } },
+        { u"Save && Close", { u"Save & Close", 0 } },
+        { u"Total&", { u"Total", 0 } },
+        { u"&", { u"", 0 } },
+        { u"a&&&", { u"a&", 0 } },
+        { u"&Open &File", { u"Open File", 6 } },
+        { u"&&&x", { u"&x", 2 } },
+        { u"&a&&b", { u"a&b", 1 } },
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ScanCaption(c.caption), c.scanned) << ToUtf8(c.caption);
 
-TEST(ScanCaption, ATrailingAmpersandIsDropped)
-{
-    EXPECT_EQ(ScanCaption(u"Total&"), (ScannedCaption { u"Total", 0 }));
-    EXPECT_EQ(ScanCaption(u"&"), (ScannedCaption { u"", 0 }));
-    EXPECT_EQ(ScanCaption(u"a&&&"), (ScannedCaption { u"a&", 0 }));
-}
-
-TEST(ScanCaption, ALaterMarkOverridesAnEarlierOne)
-{
-    EXPECT_EQ(ScanCaption(u"&Open &File"), (ScannedCaption { u"Open File", 6 }));
-    EXPECT_EQ(ScanCaption(u"&&&x"), (ScannedCaption { u"&x", 2 }));
-    EXPECT_EQ(ScanCaption(u"&a&&b"), (ScannedCaption { u"a&b", 1 }));
-}
-
-TEST(ScanCaption, SetsOrClearsTheSurfacesAccessKeys)
-{
-    WindowTree tree;
-    HeadlessSurface surface(tree);
-    ScanCaption(u"&Print", surface);
-    EXPECT_EQ(surface.AccessKeys(), u"P");
-    ScanCaption(u"A && B", surface);
-    EXPECT_EQ(surface.AccessKeys(), u"");
+    const ScannedCaption exit = ScanCaption(u"E&xit");
+    EXPECT_EQ(exit.AccessCharacter(), u'x');
+    EXPECT_EQ(exit.Before(), u"E");
+    EXPECT_EQ(exit.After(), u"it");
+    const ScannedCaption none = ScanCaption(u"Save && Close");
+    EXPECT_FALSE(none.HasAccessKey());
+    EXPECT_EQ(none.Before(), u"Save & Close");
+    EXPECT_EQ(none.After(), u"");
 }
 
 // The first column holding the colour at or after fromX on any row, if any.
@@ -130,10 +118,7 @@ TEST_F(DrawCaptionTextTest, DrawsWithACellHeightOf16TenthsOfAPixelPerPoint)
     RasterCanvas drawn(60, 60), expected(60, 60);
     DrawCaptionText(drawn, surface, u"H", { 3, 4, 60, 60 }, 0, Ink);
     expected.DrawText(3, 4, u"H", cell, Ink);
-    for (int32_t y = 0; y < 60; ++y) {
-        for (int32_t x = 0; x < 60; ++x)
-            ASSERT_EQ(drawn.Pixel(x, y), expected.Pixel(x, y)) << x << "," << y;
-    }
+    EXPECT_EQ(Runs(drawn, { { Ink, 'i' } }), Runs(expected, { { Ink, 'i' } }));
 }
 
 } // namespace

@@ -24,6 +24,8 @@ TEST(SurfaceProperties, ANewSurfaceHasTheStandardLook)
     EXPECT_EQ(surface.TwipsPerPixelY(), 15);
 }
 
+// A 3D border takes two pixels each side, a flat one a single pixel; without a border a flat
+// surface has no frame either.
 TEST(SurfaceProperties, TheScaleIsTheSizeLessTheBorder)
 {
     WindowTree tree;
@@ -37,23 +39,14 @@ TEST(SurfaceProperties, TheScaleIsTheSizeLessTheBorder)
     EXPECT_EQ(surface.Width(), 1200);
     EXPECT_EQ(surface.ScaleWidth(), 1140);
     EXPECT_EQ(surface.ScaleHeight(), 240);
-    surface.Move(0, 0, 30, 30);
-    EXPECT_EQ(surface.ScaleWidth(), 0);
-}
-
-TEST(SurfaceProperties, AFlatBorderTakesOnePixelEachSideAnd3DTwo)
-{
-    WindowTree tree;
-    HeadlessSurface surface(tree);
-    surface.Move(0, 0, 1200, 300);
     surface.SetAppearance(SurfaceAppearance::Flat);
-    EXPECT_EQ(surface.ScaleWidth(), 1200) << "no border, no frame";
-    surface.SetBorderStyle(1);
     EXPECT_EQ(surface.ScaleWidth(), 1170);
     EXPECT_EQ(surface.ScaleHeight(), 270);
-    surface.SetAppearance(SurfaceAppearance::ThreeD);
-    EXPECT_EQ(surface.ScaleWidth(), 1140);
-    EXPECT_EQ(surface.ScaleHeight(), 240);
+    surface.SetBorderStyle(0);
+    EXPECT_EQ(surface.ScaleWidth(), 1200);
+    surface.SetBorderStyle(1);
+    surface.Move(0, 0, 30, 30);
+    EXPECT_EQ(surface.ScaleWidth(), 0);
 }
 
 TEST(SurfaceProperties, SizesFromOutsideAreBounded)

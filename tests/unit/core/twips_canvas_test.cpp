@@ -1,5 +1,6 @@
 #include "core/twips_canvas.h"
 #include "platform/headless/headless_surface.h"
+#include "tests/unit/support/picture.h"
 #include <gtest/gtest.h>
 
 namespace tolva {
@@ -29,60 +30,22 @@ protected:
     TwipsCanvas canvas { surface };
 };
 
-TEST_F(TwipsCanvasTest, SizeIsInTwipsAtFifteenPerPixel)
+// A frame box lights its last pixel column and row, an inner box includes both corners, a filled
+// box covers both corners given in any order, and a line leaves out its end point.
+TEST_F(TwipsCanvasTest, ShapesInTwipsAtFifteenPerPixel)
 {
-    EXPECT_EQ(canvas.Image().Width(), 100);
-    EXPECT_EQ(canvas.Image().Height(), 50);
     EXPECT_EQ(canvas.ScaleWidth(), 1500);
-    EXPECT_EQ(At(99, 49), White);
-}
-
-TEST_F(TwipsCanvasTest, AFrameBoxLightsTheLastPixelColumnAndRow)
-{
     canvas.Box(0, 0, canvas.ScaleWidth() - 15, canvas.ScaleHeight() - 15, Black);
-    for (int32_t x = 0; x < 100; ++x) {
-        EXPECT_EQ(At(x, 0), Black) << x;
-        EXPECT_EQ(At(x, 49), Black) << x;
-    }
-    for (int32_t y = 0; y < 50; ++y) {
-        EXPECT_EQ(At(0, y), Black) << y;
-        EXPECT_EQ(At(99, y), Black) << y;
-    }
-    EXPECT_EQ(At(1, 1), White);
-    EXPECT_EQ(At(98, 48), White);
-}
-
-TEST_F(TwipsCanvasTest, AnInnerBoxIncludesBothCorners)
-{
     canvas.Box(15, 15, canvas.ScaleWidth() - 30, canvas.ScaleHeight() - 30, Red);
-    EXPECT_EQ(At(1, 1), Red);
-    EXPECT_EQ(At(98, 48), Red);
-    EXPECT_EQ(At(98, 1), Red);
-    EXPECT_EQ(At(0, 0), White);
-    EXPECT_EQ(At(99, 49), White);
-    EXPECT_EQ(At(2, 2), White);
-}
-
-TEST_F(TwipsCanvasTest, ALineLeavesOutItsEndPointAndMovesTheCurrentPosition)
-{
-    canvas.Line(15, 30, 75, 30, Black); // pixels 1 to 4 of row 2
-    EXPECT_EQ(At(0, 2), White);
-    EXPECT_EQ(At(1, 2), Black);
-    EXPECT_EQ(At(4, 2), Black);
-    EXPECT_EQ(At(5, 2), White);
-    EXPECT_EQ(canvas.CurrentX(), 75);
-    EXPECT_EQ(canvas.CurrentY(), 30);
-}
-
-TEST_F(TwipsCanvasTest, AFilledBoxCoversBothCorners)
-{
-    canvas.FilledBox(60, 45, 30, 75, Red); // corners in any order: pixels 2..4 x 3..5
-    for (int32_t y = 2; y <= 6; ++y) {
-        for (int32_t x = 1; x <= 5; ++x) {
-            const bool inside = x >= 2 && x <= 4 && y >= 3 && y <= 5;
-            EXPECT_EQ(At(x, y), inside ? Red : White) << x << "," << y;
-        }
-    }
+    canvas.FilledBox(60, 45, 30, 75, Red); // pixels 2..4 x 3..5
+    canvas.Line(150, 600, 210, 600, Black); // pixels 10 to 13 of row 40
+    EXPECT_EQ(canvas.CurrentX(), 210);
+    EXPECT_EQ(canvas.CurrentY(), 600);
+    const std::vector<std::string> expected { "0: k100", "1: k1 r98 k1", "2: k1 r1 w96 r1 k1",
+        "3-5: k1 r4 w93 r1 k1", "6-39: k1 r1 w96 r1 k1", "40: k1 r1 w8 k4 w84 r1 k1", "41-47: k1 r1 w96 r1 k1",
+        "48: k1 r98 k1", "49: k100" };
+    EXPECT_EQ(Runs(static_cast<RasterCanvas&>(canvas.Image()), { { Black, 'k' }, { White, 'w' }, { Red, 'r' } }),
+        expected);
 }
 
 TEST_F(TwipsCanvasTest, SettingTheBackColourClearsToItTranslatingSystemColours)

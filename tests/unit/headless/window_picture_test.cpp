@@ -1,4 +1,5 @@
 #include "platform/headless/window_picture.h"
+#include "tests/unit/support/picture.h"
 #include <gtest/gtest.h>
 
 namespace tolva::headless {
@@ -17,6 +18,18 @@ protected:
         child->Move(30, 15, 60, 45);
     }
 
+    // The picture with the colours named: g green, b blue, k black; the 3D edge's s shadow, d dark
+    // shadow, h highlight and l light.
+    std::vector<std::string> Picture() const
+    {
+        const RasterCanvas picture = WindowPicture(root);
+        const auto system = [&picture](OleColor colour) { return picture.SystemColor(SystemColorIndex(colour)); };
+        return Runs(picture,
+            { { Green, 'g' }, { Blue, 'b' }, { Black, 'k' }, { system(SystemColor::ButtonShadow), 's' },
+                { system(SystemColor::DarkShadow3D), 'd' }, { system(SystemColor::ButtonHighlight), 'h' },
+                { system(SystemColor::Light3D), 'l' } });
+    }
+
     WindowTree tree;
     HeadlessSurface root { tree };
     std::unique_ptr<Surface> child = root.CreateChild();
@@ -24,49 +37,26 @@ protected:
 
 TEST_F(WindowPictureTest, WithoutBorderItIsTheClientAreaWithTheChildrenOverIt)
 {
-    const RasterCanvas picture = WindowPicture(root);
-    EXPECT_EQ(picture.Width(), 10);
-    EXPECT_EQ(picture.Height(), 8);
-    EXPECT_EQ(picture.Pixel(0, 0), Green);
-    EXPECT_EQ(picture.Pixel(2, 1), Blue);
-    EXPECT_EQ(picture.Pixel(5, 3), Blue);
-    EXPECT_EQ(picture.Pixel(6, 4), Green);
-
+    EXPECT_EQ(Picture(), (std::vector<std::string> { "0: g10", "1-3: g2 b4 g4", "4-7: g10" }));
     child->SetVisible(false);
-    EXPECT_EQ(WindowPicture(root).Pixel(2, 1), Green) << "a hidden child is not drawn";
+    EXPECT_EQ(Picture(), std::vector<std::string> { "0-7: g10" }) << "a hidden child is not drawn";
 }
 
 TEST_F(WindowPictureTest, AFlatBorderIsABlackFrameOfOnePixelAndTheClientStartsInsideIt)
 {
     root.SetAppearance(SurfaceAppearance::Flat);
     root.SetBorderStyle(1);
-    const RasterCanvas picture = WindowPicture(root);
-    ASSERT_EQ(picture.Width(), 10);
-    for (int32_t x = 0; x < 10; ++x) {
-        EXPECT_EQ(picture.Pixel(x, 0), Black) << x;
-        EXPECT_EQ(picture.Pixel(x, 7), Black) << x;
-    }
-    for (int32_t y = 0; y < 8; ++y) {
-        EXPECT_EQ(picture.Pixel(0, y), Black) << y;
-        EXPECT_EQ(picture.Pixel(9, y), Black) << y;
-    }
-    EXPECT_EQ(picture.Pixel(1, 1), Green);
-    EXPECT_EQ(picture.Pixel(8, 6), Green);
-    EXPECT_EQ(picture.Pixel(3, 2), Blue) << "the child sits in the client area";
-    EXPECT_EQ(picture.Pixel(2, 1), Green);
+    EXPECT_EQ(Picture(), (std::vector<std::string> { "0: k10", "1: k1 g8 k1", "2-4: k1 g2 b4 g2 k1", "5-6: k1 g8 k1", "7: k10" }));
 }
 
+// Shadow above and to the left over the dark shadow, highlight below and to the right over the
+// light edge.
 TEST_F(WindowPictureTest, A3DBorderIsTheSunkenEdgeOfTwoPixels)
 {
     root.SetBorderStyle(1);
-    const RasterCanvas picture = WindowPicture(root);
-    const auto colour = [&picture](OleColor system) { return picture.SystemColor(SystemColorIndex(system)); };
-    EXPECT_EQ(picture.Pixel(0, 0), colour(SystemColor::ButtonShadow)); // above and to the left
-    EXPECT_EQ(picture.Pixel(1, 1), colour(SystemColor::DarkShadow3D));
-    EXPECT_EQ(picture.Pixel(9, 7), colour(SystemColor::ButtonHighlight)); // below and to the right
-    EXPECT_EQ(picture.Pixel(8, 6), colour(SystemColor::Light3D));
-    EXPECT_EQ(picture.Pixel(2, 2), Green);
-    EXPECT_EQ(picture.Pixel(4, 3), Blue);
+    EXPECT_EQ(Picture(),
+        (std::vector<std::string> { "0: s9 h1", "1: s1 d7 l1 h1", "2: s1 d1 g6 l1 h1", "3-5: s1 d1 g2 b4 l1 h1",
+            "6: s1 l8 h1", "7: h10" }));
 }
 
 } // namespace

@@ -43,6 +43,7 @@ String Text(const FormObject& object, StringView key)
     return object.Find(key)->value.ToString();
 }
 
+// Each literal gets its type, a font group becomes one font value, and keys and names ignore case.
 TEST(FormReader, ReadsTheFormItsControlsAndMenusInOrder)
 {
     FormObject form = FormReader::Read(SampleForm);
@@ -56,34 +57,19 @@ TEST(FormReader, ReadsTheFormItsControlsAndMenusInOrder)
     EXPECT_EQ(form.children[1].name, u"mnuFile");
     ASSERT_EQ(form.children[1].children.size(), 1u);
     EXPECT_EQ(Text(form.children[1].children[0], u"Caption"), u"&Open...");
-}
 
-TEST(FormReader, GivesEachLiteralItsType)
-{
-    FormObject form = FormReader::Read(SampleForm);
     const FormObject& ok = form.children[0];
     EXPECT_EQ(ok.Find(u"Left")->value, Variant(int32_t(120)));
-    EXPECT_EQ(ok.Find(u"BackColor")->value, Variant(uint32_t(0xCEDBDE)));
+    EXPECT_EQ(ok.Find(u"backcolor")->value, Variant(uint32_t(0xCEDBDE)));
     EXPECT_EQ(ok.Find(u"Enabled")->value, Variant(false));
     EXPECT_EQ(ok.Find(u"Default")->value, Variant(true));
     EXPECT_EQ(ok.Find(u"Caption")->line, 8);
-}
-
-TEST(FormReader, ReadsAFontGroupAsOneFontValue)
-{
-    FormObject form = FormReader::Read(SampleForm);
     Font expected;
     expected.name = u"Tahoma";
     expected.size = 9.75;
     expected.weight = 700;
     expected.italic = true;
-    EXPECT_EQ(form.children[0].Find(u"Font")->value, Variant(expected));
-}
-
-TEST(FormReader, KeysAndNamesIgnoreCase)
-{
-    FormObject form = FormReader::Read(SampleForm);
-    EXPECT_NE(form.children[0].Find(u"backcolor"), nullptr);
+    EXPECT_EQ(ok.Find(u"Font")->value, Variant(expected));
     EXPECT_NE(form.FindDescendant(u"MNUFILEOPEN"), nullptr);
     EXPECT_EQ(form.FindDescendant(u"mnuNone"), nullptr);
 }

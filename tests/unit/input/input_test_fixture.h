@@ -184,36 +184,19 @@ public:
     RecordingList* list = nullptr;
 };
 
-// Records the control's events as text, and runs an optional hook inside each handler as a
-// host's event code would.
-class InputEventLog final : public TolvaInputEvents {
+// Records the control's events as text; keyPress, when set, runs inside KeyPress and may
+// change KeyAscii as a host's event code would.
+class InputEventLog final : public KeyAndMouseEventLog<TolvaInputEvents> {
 public:
     void Change() override { Record("Change"); }
-    void Click() override { Record("Click"); }
-    void DblClick() override { Record("DblClick"); }
-    void KeyDown(int16_t& k, int16_t& s) override { Record("KeyDown " + std::to_string(k) + " " + std::to_string(s)); }
     void KeyPress(int16_t& k) override
     {
-        Record("KeyPress " + std::to_string(k));
+        KeyAndMouseEventLog::KeyPress(k);
         if (keyPress)
             keyPress(k);
     }
-    void KeyUp(int16_t& k, int16_t& s) override { Record("KeyUp " + std::to_string(k) + " " + std::to_string(s)); }
-    void MouseDown(int16_t& b, int16_t& s, float& x, float& y) override
-    {
-        Record(MouseEventText("MouseDown", b, s, x, y));
-    }
-    void MouseMove(int16_t& b, int16_t& s, float& x, float& y) override
-    {
-        Record(MouseEventText("MouseMove", b, s, x, y));
-    }
-    void MouseUp(int16_t& b, int16_t& s, float& x, float& y) override { Record(MouseEventText("MouseUp", b, s, x, y)); }
 
-    std::vector<std::string> log;
-    std::function<void(int16_t&)> keyPress; // may change KeyAscii
-
-private:
-    void Record(std::string event) { log.push_back(std::move(event)); }
+    std::function<void(int16_t&)> keyPress;
 };
 
 // A new input 1500 x 285 twips at run time with the sunken edge: an inner area of 96 x 15

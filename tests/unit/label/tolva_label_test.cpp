@@ -1,6 +1,7 @@
 #include "core/automation_error.h"
 #include "core/memory_property_bag.h"
 #include "label_test_fixture.h"
+#include "tests/unit/support/round_trip.h"
 #include <gtest/gtest.h>
 
 namespace tolva {
@@ -40,8 +41,11 @@ TEST_F(LabelTest, ReadsItsKeysInOrderWithTheReadDefaults)
     EXPECT_EQ(label.ForeColor(), 0xFFFFFFu);
 }
 
-TEST_F(LabelTest, WritesFontFourthAndTheSystemColoursAsDefaults)
+// A new label is named after its instance. Font is written fourth, and the system button colours
+// are the colours' defaults, so the black background and white text are always saved.
+TEST_F(LabelTest, ANewLabelIsNamedAfterItsInstanceAndWritesFontFourth)
 {
+    label.InitProperties();
     MemoryPropertyBag bag;
     label.WriteProperties(bag);
     const std::vector<String> expected { u"BackColor", u"ForeColor", u"Enabled", u"Font", u"BorderStyle", u"Alignment",
@@ -50,6 +54,9 @@ TEST_F(LabelTest, WritesFontFourthAndTheSystemColoursAsDefaults)
     EXPECT_EQ(bag.KeysOf(OperationKind::Write), expected);
     EXPECT_EQ(bag.Operations()[0].defaultValue, Variant(SystemColor::ButtonFace));
     EXPECT_EQ(bag.Operations()[1].defaultValue, Variant(SystemColor::ButtonText));
+    EXPECT_EQ(bag.Entries(),
+        (std::vector<std::pair<String, Variant>> {
+            { u"BackColor", OleColor(0) }, { u"ForeColor", OleColor(0xFFFFFF) }, { u"Caption", u"TolvaLabel7" } }));
 }
 
 TEST_F(LabelTest, SystemButtonColoursComeBackWhiteOnBlack)
@@ -66,19 +73,9 @@ TEST_F(LabelTest, SystemButtonColoursComeBackWhiteOnBlack)
     EXPECT_EQ(label.ForeColor(), 0xFFFFFFu);
 }
 
-TEST_F(LabelTest, BlackBackgroundAndWhiteTextAreAlwaysSaved)
-{
-    label.InitProperties();
-    MemoryPropertyBag bag;
-    label.WriteProperties(bag);
-    ASSERT_NE(bag.Find(u"BackColor"), nullptr);
-    ASSERT_NE(bag.Find(u"ForeColor"), nullptr);
-    EXPECT_EQ(*bag.Find(u"BackColor"), Variant(OleColor(0)));
-    EXPECT_EQ(*bag.Find(u"ForeColor"), Variant(OleColor(0xFFFFFF)));
-}
-
 TEST_F(LabelTest, OtherPropertiesSurviveARoundTrip)
 {
+    label.InitProperties();
     label.SetCaption(u"&Next");
     label.SetArrowIcon(tkArrowIcon::tkPointerRight);
     label.SetArrowPosition(tkArrowPosition::tkEnd);
@@ -87,31 +84,15 @@ TEST_F(LabelTest, OtherPropertiesSurviveARoundTrip)
     label.SetAlignment(tkLabelAlignment::tkAlignCenter);
     label.SetMenuName(u"mnuGo");
     label.SetBackColorActive(0x112233);
-    MemoryPropertyBag bag;
-    label.WriteProperties(bag);
-
     headless::HeadlessSurface other(tree);
     TolvaLabel copy(other, site);
-    copy.ReadProperties(bag);
-    EXPECT_EQ(copy.Caption(), u"&Next");
-    EXPECT_EQ(copy.ArrowIcon(), tkArrowIcon::tkPointerRight);
-    EXPECT_EQ(copy.ArrowPosition(), tkArrowPosition::tkEnd);
-    EXPECT_TRUE(copy.Kerning());
-    EXPECT_EQ(copy.BorderStyle(), tkLabelBorderStyle::Inset);
+    const MemoryPropertyBag bag = ExpectRoundTrip(label, copy);
+    EXPECT_EQ(bag.Entries(),
+        (std::vector<std::pair<String, Variant>> { { u"BackColor", OleColor(0) }, { u"ForeColor", OleColor(0xFFFFFF) },
+            { u"BorderStyle", int32_t(1) }, { u"Alignment", int32_t(1) }, { u"Caption", u"&Next" },
+            { u"ArrowIcon", int32_t(tkArrowIcon::tkPointerRight) }, { u"ArrowPosition", int32_t(tkArrowPosition::tkEnd) },
+            { u"Kerning", true }, { u"BackColorActive", OleColor(0x112233) }, { u"MenuName", u"mnuGo" } }));
     EXPECT_EQ(other.BorderStyle(), 1);
-    EXPECT_EQ(copy.Alignment(), tkLabelAlignment::tkAlignCenter);
-    EXPECT_EQ(copy.MenuName(), u"mnuGo");
-    EXPECT_EQ(copy.BackColorActive(), 0x112233u);
-}
-
-TEST_F(LabelTest, ANewLabelIsNamedAfterItsInstance)
-{
-    label.InitProperties();
-    EXPECT_EQ(label.Caption(), u"TolvaLabel7");
-    EXPECT_EQ(label.BackColor(), 0x000000u);
-    EXPECT_EQ(label.ForeColor(), 0xFFFFFFu);
-    EXPECT_EQ(label.ForeColorActive(), 0x9CDFF7u);
-    EXPECT_EQ(label.ArrowPosition(), tkArrowPosition::tkNone);
 }
 
 TEST_F(LabelTest, ABorderStyleTheSurfaceCannotShowIsRefused)
@@ -129,45 +110,35 @@ TEST_F(LabelTest, ABorderStyleTheSurfaceCannotShowIsRefused)
 }
 
 // Setters report and repaint; MenuName reports without repainting.
-
 TEST_F(LabelTest, SettersReportTheirKeyAndRepaint)
 {
     const int presents = surface.PresentCount();
     label.SetCaption(u"x");
     label.SetForeColorPushed(1);
     label.SetEnabled(false);
-    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"Caption", u"ForeColorPushed", u"Enabled" }));
-    EXPECT_EQ(surface.PresentCount(), presents + 3);
-}
-
-TEST_F(LabelTest, MenuNameReportsButDoesNotRepaint)
-{
-    const int presents = surface.PresentCount();
     label.SetMenuName(u"mnuFile");
-    EXPECT_EQ(site.propertyChanges, std::vector<String> { u"MenuName" });
-    EXPECT_EQ(surface.PresentCount(), presents);
+    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"Caption", u"ForeColorPushed", u"Enabled", u"MenuName" }));
+    EXPECT_EQ(surface.PresentCount(), presents + 3);
 }
 
 // Mouse events.
 
+// A left release clicks before MouseUp wherever the pointer is; the right button neither pushes
+// nor clicks.
 TEST_F(LabelTest, ALeftReleaseClicksBeforeMouseUpWhereverThePointerIs)
 {
     surface.MouseDown(1, 0, 30, 45);
     EXPECT_TRUE(label.Mouse().pushed);
     surface.MouseMove(1, 0, 3000, 45);
     surface.MouseUp(1, 2, 3000, 45);
-    EXPECT_EQ(events.log,
-        (std::vector<std::string> { "MouseDown 1 0 30 45", "MouseMove 1 0 3000 45", "Click", "MouseUp 1 2 3000 45" }));
     EXPECT_FALSE(label.Mouse().pushed);
     EXPECT_FALSE(label.Mouse().hot);
-}
-
-TEST_F(LabelTest, TheRightButtonNeitherPushesNorClicks)
-{
     surface.MouseDown(2, 0, 30, 45);
     EXPECT_FALSE(label.Mouse().pushed);
     surface.MouseUp(2, 0, 30, 45);
-    EXPECT_EQ(events.log, (std::vector<std::string> { "MouseDown 2 0 30 45", "MouseUp 2 0 30 45" }));
+    EXPECT_EQ(events.log,
+        (std::vector<std::string> { "MouseDown 1 0 30 45", "MouseMove 1 0 3000 45", "Click", "MouseUp 1 2 3000 45",
+            "MouseDown 2 0 30 45", "MouseUp 2 0 30 45" }));
 }
 
 TEST_F(LabelTest, DoubleClicksAreForwardedAndTheSurfacesClickIsNot)
@@ -202,25 +173,23 @@ protected:
     TestParentForm form;
 };
 
-TEST_F(LabelMenuTest, ADownArrowOpensTheMenuUnderTheLabel)
+// A down arrow opens the menu under the label; right arrows and pointers to the right of it; the
+// other arrows at the label's corner.
+TEST_F(LabelMenuTest, TheMenuOpensOnTheSideTheArrowPointsTo)
 {
-    EXPECT_EQ(
-        ClickWith(tkArrowIcon::tkArrowDown), (std::vector<TestParentForm::PopupMenuCall> { { u"mnuGo", 150, 750 } }));
-}
-
-TEST_F(LabelMenuTest, RightArrowsAndPointersOpenItToTheRight)
-{
-    const std::vector<TestParentForm::PopupMenuCall> right { { u"mnuGo", 1650, 450 } };
-    EXPECT_EQ(ClickWith(tkArrowIcon::tkArrowRight), right);
-    EXPECT_EQ(ClickWith(tkArrowIcon::tkPointerRight), right);
-}
-
-TEST_F(LabelMenuTest, OtherArrowsOpenItAtTheLabelsCorner)
-{
-    const std::vector<TestParentForm::PopupMenuCall> corner { { u"mnuGo", 150, 450 } };
-    EXPECT_EQ(ClickWith(tkArrowIcon::tkArrowLeft), corner);
-    EXPECT_EQ(ClickWith(tkArrowIcon::tkArrowUp), corner);
-    EXPECT_EQ(ClickWith(tkArrowIcon::tkPointerLeft), corner);
+    const struct {
+        int32_t icon;
+        float x, y;
+    } cases[] = {
+        { tkArrowIcon::tkArrowDown, 150, 750 },
+        { tkArrowIcon::tkArrowRight, 1650, 450 },
+        { tkArrowIcon::tkPointerRight, 1650, 450 },
+        { tkArrowIcon::tkArrowLeft, 150, 450 },
+        { tkArrowIcon::tkArrowUp, 150, 450 },
+        { tkArrowIcon::tkPointerLeft, 150, 450 },
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ClickWith(c.icon), (std::vector<TestParentForm::PopupMenuCall> { { u"mnuGo", c.x, c.y } })) << c.icon;
 }
 
 TEST_F(LabelMenuTest, AMenuThatCannotOpenIsNoErrorAndMouseUpStillFollows)

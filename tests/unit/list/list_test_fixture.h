@@ -11,37 +11,14 @@ namespace tolva {
 
 // Records the list's events as text, in the order they were raised; SelectionChanged carries
 // the ListIndex it saw.
-class ListEventLog final : public TolvaListEvents {
+class ListEventLog final : public KeyAndMouseEventLog<TolvaListEvents> {
 public:
     explicit ListEventLog(const TolvaList& list)
         : m_list(list)
     { }
-    void Click() override { log.push_back("Click"); }
-    void DblClick() override { log.push_back("DblClick"); }
-    void KeyDown(int16_t& k, int16_t& s) override { log.push_back(Keys("KeyDown", k, s)); }
-    void KeyPress(int16_t& k) override { log.push_back("KeyPress " + std::to_string(k)); }
-    void KeyUp(int16_t& k, int16_t& s) override { log.push_back(Keys("KeyUp", k, s)); }
-    void MouseDown(int16_t& b, int16_t& s, float& x, float& y) override
-    {
-        log.push_back(MouseEventText("MouseDown", b, s, x, y));
-    }
-    void MouseMove(int16_t& b, int16_t& s, float& x, float& y) override
-    {
-        log.push_back(MouseEventText("MouseMove", b, s, x, y));
-    }
-    void MouseUp(int16_t& b, int16_t& s, float& x, float& y) override
-    {
-        log.push_back(MouseEventText("MouseUp", b, s, x, y));
-    }
-    void SelectionChanged() override { log.push_back("SelectionChanged " + std::to_string(m_list.ListIndex())); }
-
-    std::vector<std::string> log;
+    void SelectionChanged() override { Record("SelectionChanged " + std::to_string(m_list.ListIndex())); }
 
 private:
-    static std::string Keys(const char* what, int16_t k, int16_t s)
-    {
-        return std::string(what) + " " + std::to_string(k) + " " + std::to_string(s);
-    }
     const TolvaList& m_list;
 };
 

@@ -1,5 +1,5 @@
 #include "core/twips_canvas.h"
-#include "list_picture.h"
+#include "tests/unit/support/picture.h"
 #include "list_test_fixture.h"
 #include <cmath>
 

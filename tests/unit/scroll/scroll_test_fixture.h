@@ -1,5 +1,6 @@
 #pragma once
 #include "controls/scroll/tolva_scroll.h"
+#include "core/memory_property_bag.h"
 #include "platform/headless/headless_surface.h"
 #include "platform/headless/test_site.h"
 #include <gtest/gtest.h>
@@ -38,6 +39,14 @@ protected:
     headless::HeadlessSurface& Down() { return *surface.Children().at(1); }
     headless::HeadlessSurface& Slider() { return *surface.Children().at(2); }
     void Advance(int64_t milliseconds) { tree.Clock().Advance(milliseconds); }
+    // Reads a bag holding just these values, as a loaded form would.
+    void Load(std::initializer_list<std::pair<const char16_t*, Variant>> values)
+    {
+        MemoryPropertyBag bag;
+        for (const auto& [key, value] : values)
+            bag.Set(key, value);
+        scroll.ReadProperties(bag);
+    }
     void Clear()
     {
         events.changes.clear();

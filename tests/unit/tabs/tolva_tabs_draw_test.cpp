@@ -1,7 +1,7 @@
 #include "core/twips_canvas.h"
 #include "platform/headless/raster_canvas.h"
 #include "tabs_test_fixture.h"
-#include <map>
+#include "tests/unit/support/picture.h"
 
 namespace tolva::testing {
 namespace {
@@ -12,23 +12,12 @@ constexpr ColorRef Border = 0x8C969C;
 constexpr ColorRef Inactive = 0xCEDBDE;
 constexpr ColorRef Behind = 0xFFFFFF;
 
-// The window as rows of characters, one per pixel: '#' outline, '=' the folder's colour, '-' an
-// inactive tab, '.' behind the tabs, 't' text, '?' anything else.
+// The window as runs of named colours (see Runs): '#' outline, '=' the folder's colour, '-' an
+// inactive tab, '.' behind the tabs, 't' text.
 std::vector<std::string> Picture(const headless::HeadlessSurface& surface)
 {
-    const std::map<ColorRef, char> legend { { Border, '#' }, { ButtonFace, '=' }, { Inactive, '-' }, { Behind, '.' },
-        { ButtonText, 't' } };
-    const headless::RasterCanvas& image = surface.WindowImage();
-    std::vector<std::string> rows;
-    for (int32_t y = 0; y < image.Height(); ++y) {
-        std::string row;
-        for (int32_t x = 0; x < image.Width(); ++x) {
-            const auto found = legend.find(image.Pixel(x, y));
-            row += found != legend.end() ? found->second : '?';
-        }
-        rows.push_back(row);
-    }
-    return rows;
+    return Runs(surface.WindowImage(),
+        { { Border, '#' }, { ButtonFace, '=' }, { Inactive, '-' }, { Behind, '.' }, { ButtonText, 't' } });
 }
 
 // How many pixels of a colour lie in the columns left <= x < right.
@@ -44,15 +33,7 @@ int CountIn(const headless::HeadlessSurface& surface, ColorRef color, int32_t le
 TEST_F(TabsTest, WithoutTabsItIsOneBorderedBoxInTheBackColour)
 {
     surface.Resize(150, 90);
-    const std::vector<std::string> expected {
-        "##########",
-        "#========#",
-        "#========#",
-        "#========#",
-        "#========#",
-        "##########",
-    };
-    EXPECT_EQ(Picture(surface), expected);
+    EXPECT_EQ(Picture(surface), (std::vector<std::string> { "0: #10", "1-4: #1 =8 #1", "5: #10" }));
 }
 
 // Two tabs of 20 pixels and a gap of 5 over a folder, the second selected: it is filled with the
@@ -63,12 +44,8 @@ TEST_F(TabsTest, TheSelectedTabOpensIntoTheFolder)
     tabs.SetTabWidth(300);
     AddTabs({ u"", u"" });
     tabs.SetSelectedItem(2);
-    const std::string inactiveRow = "#-------------------#....#===================#.........";
-    std::vector<std::string> expected { "#####################....#####################........." };
-    expected.insert(expected.end(), 13, inactiveRow);
-    expected.push_back("##########################===================##########");
-    expected.insert(expected.end(), 8, "#=====================================================#");
-    expected.push_back(std::string(55, '#'));
+    const std::vector<std::string> expected { "0: #21 .4 #21 .9", "1-13: #1 -19 #1 .4 #1 =19 #1 .9",
+        "14: #26 =19 #10", "15-22: #1 =53 #1", "23: #55" };
     EXPECT_EQ(Picture(surface), expected);
 }
 
