@@ -86,14 +86,6 @@ TEST_F(HeadlessSurfaceTest, MouseAndKeyInputReachTheListener)
     EXPECT_TRUE(childEvents.log.empty());
 }
 
-TEST_F(HeadlessSurfaceTest, KeyHelpersReturnTheKeyAsTheHandlerLeftIt)
-{
-    rootEvents.replacement = 0;
-    EXPECT_EQ(root.KeyPress(97), 0);
-    rootEvents.replacement = 40;
-    EXPECT_EQ(root.KeyDown(38, 0), 40);
-}
-
 TEST_F(HeadlessSurfaceTest, ADisabledSurfaceGetsNoMouseOrKeyInput)
 {
     root.SetEnabled(false);

@@ -5,22 +5,6 @@
 namespace tolva::headless {
 namespace {
 
-TEST(TestSite, RecordsWhatTheControlAsked)
-{
-    TestSite site;
-    site.PropertyChanged(u"Caption");
-    site.PropertyChanged(u"Style");
-    site.messageBoxAnswer = 2;
-    EXPECT_EQ(site.MessageBox(u"Invalid property value", MessageBoxStyle::Critical), 2);
-    site.Beep();
-    site.ShowAboutBox();
-    EXPECT_EQ(site.propertyChanges, (std::vector<String> { u"Caption", u"Style" }));
-    EXPECT_EQ(site.messageBoxes,
-        (std::vector<TestSite::MessageBoxCall> { { u"Invalid property value", MessageBoxStyle::Critical } }));
-    EXPECT_EQ(site.beeps, 1);
-    EXPECT_EQ(site.aboutBoxes, 1);
-}
-
 TEST(TestParentForm, FindsMenusByNameIgnoringCase)
 {
     TestParentForm form;

@@ -130,11 +130,9 @@ TEST_F(DropDownTest, TheCalendarIsToldItsDateThenSetUpThenShownBelowTheControl)
             "Calendar Setup", "Calendar Show" }));
     EXPECT_EQ(factory.calendar->Parent(), &input);
     EXPECT_EQ(input.TextInput().Tag(), u"03/20/2026");
-}
 
-TEST_F(DropDownTest, TextThatIsNoDateOpensTheCalendarOnToday)
-{
-    input.SetStyle(tkInputStyles::tkCalendar);
+    // Text that is no date opens the calendar on today.
+    factory.calendar->visible = false;
     input.SetText(u"soon");
     surface.MouseDown(1, 0, 1300, 100);
     EXPECT_EQ(factory.calendar->Date(), formatter.today);

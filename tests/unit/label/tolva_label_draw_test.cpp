@@ -152,6 +152,7 @@ const GlyphCase GlyphCases[] = {
     { tkPointerRight, tkLeft, { 4, 7, PointerRight } },
     { tkPointerRight, tkRight, { 10, 7, PointerRight } },
     { tkPointerRight, tkEnd, { 91, 7, PointerRight } },
+    { tkArrowDown, tkNone, {} }, // no glyph without a position
 };
 
 TEST_F(LabelDrawTest, EveryGlyphAtEveryPosition)
@@ -162,14 +163,6 @@ TEST_F(LabelDrawTest, EveryGlyphAtEveryPosition)
         label.SetArrowPosition(glyph.position);
         EXPECT_EQ(FigureOf(surface, Fore), glyph.expected) << "icon " << glyph.icon << " at " << glyph.position;
     }
-}
-
-TEST_F(LabelDrawTest, NoGlyphWithoutAPosition)
-{
-    label.SetCaption(u"");
-    label.SetArrowIcon(tkArrowDown);
-    label.SetArrowPosition(tkNone);
-    EXPECT_TRUE(FigureOf(surface, Fore).rows.empty());
 }
 
 TEST_F(LabelDrawTest, TheGlyphsPenColourFollowsTheState)

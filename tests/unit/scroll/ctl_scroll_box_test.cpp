@@ -41,21 +41,17 @@ TEST_F(ScrollBoxTest, ReadsAndWritesTheSameKeysWithTheFirstThreeTwice)
     EXPECT_EQ(bag.KeysOf(OperationKind::Write), AllKeys);
 }
 
+// An empty bag gives a framed button-face box; its surface is flat, so the border is a frame of
+// one pixel.
 TEST_F(ScrollBoxTest, AnEmptyBagGivesAFramedButtonFaceBox)
 {
+    EXPECT_EQ(surface.Appearance(), SurfaceAppearance::Flat);
     MemoryPropertyBag bag;
     box.ReadProperties(bag);
     EXPECT_EQ(box.BackColor(), SystemColor::ButtonFace);
     EXPECT_EQ(box.BorderStyle(), 1);
     EXPECT_TRUE(box.Enabled());
     EXPECT_EQ(surface.GetFont(), site.ambientFont);
-}
-
-TEST_F(ScrollBoxTest, ItsSurfaceIsFlatSoItsBorderIsAOnePixelFrame)
-{
-    EXPECT_EQ(surface.Appearance(), SurfaceAppearance::Flat);
-    MemoryPropertyBag bag;
-    box.ReadProperties(bag); // a new box's border: fixed single
     EXPECT_EQ(surface.ScaleWidth(), 255 - 30);
     EXPECT_EQ(surface.ScaleHeight(), 255 - 30);
     box.SetBorderStyle(0);

@@ -45,11 +45,7 @@ INSTANTIATE_TEST_SUITE_P(Members, TabsMemberTest,
         MemberCase { "BackColor", [](TolvaTabs& t) { t.SetBackColor(0x0000FF); }, { u"BackColor" }, true },
         MemberCase { "ForeColor", [](TolvaTabs& t) { t.SetForeColor(0x0000FF); }, { u"ForeColor" }, true },
         MemberCase { "Enabled", [](TolvaTabs& t) { t.SetEnabled(false); }, { u"Enabled" }, false },
-        MemberCase { "Font",
-            [](TolvaTabs& t) {
-                t.SetFont(Font { u"Arial", 12 });
-            },
-            { u"Font" }, true },
+        MemberCase { "Font", [](TolvaTabs& t) { t.SetFont(Font { u"Arial", 12 }); }, { u"Font" }, true },
         MemberCase { "BorderColor", [](TolvaTabs& t) { t.SetBorderColor(1); }, { u"BorderColor" }, true },
         MemberCase {
             "BackColorInactive", [](TolvaTabs& t) { t.SetBackColorInactive(1); }, { u"BackColorInactive" }, true },
