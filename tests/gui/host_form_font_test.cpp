@@ -2,7 +2,7 @@
 // file gave it, although Wine's font objects report the faces and sizes they realised.
 #include "host/form/form_reader.h"
 #include "host/form/form_writer.h"
-#include "host/win32/text_file.h"
+#include "tests/gui/host_program.h"
 #include "tests/gui/hosted_form.h"
 #include "tests/win32/support/font_printing.h"
 #include <gtest/gtest.h>
@@ -46,13 +46,12 @@ void ExpectSameFonts(const FormObject& saved, const FormObject& original)
 
 TEST(HostFormFont, TheDemoFormKeepsItsTahomaFonts)
 {
-    const std::string unix = TOLVA_EXAMPLES_DIR "/demo.frm";
-    const std::optional<std::string> text = host::ReadTextFile(u"Z:" + FromUtf8(unix), 1 << 20);
-    ASSERT_TRUE(text);
-    const FormObject original = FormReader::Read(*text);
+    const std::string text = test::ReadFile(test::Examples() + L"\\demo.frm");
+    ASSERT_FALSE(text.empty());
+    const FormObject original = FormReader::Read(text);
     std::string firstSave;
     {
-        HostedForm hosted(*text);
+        HostedForm hosted(text);
         firstSave = FormWriter::Write(hosted.Form().Save());
     }
     const FormObject saved = FormReader::Read(firstSave);

@@ -76,15 +76,11 @@ TEST_F(HostFormTest, TheAccessKeyClicksFromAnywhereOnTheForm)
 
 TEST_F(HostFormTest, TabMovesTheFocusInTabOrder)
 {
-    MSG tab { GetFocus(), WM_KEYDOWN, VK_TAB, 0, 0, {} };
-    EXPECT_TRUE(hosted.Form().PreTranslateMessage(tab));
-    EXPECT_EQ(GetFocus(), hosted.Window(u"cmdOK"));
-    tab.hwnd = GetFocus();
-    hosted.Form().PreTranslateMessage(tab);
-    EXPECT_EQ(GetFocus(), hosted.Window(u"cmdMenu"));
-    tab.hwnd = GetFocus();
-    hosted.Form().PreTranslateMessage(tab);
-    EXPECT_EQ(GetFocus(), hosted.Window(u"cmdFirst"));
+    for (const char16_t* next : { u"cmdOK", u"cmdMenu", u"cmdFirst" }) {
+        MSG tab { GetFocus(), WM_KEYDOWN, VK_TAB, 0, 0, {} };
+        EXPECT_TRUE(hosted.Form().PreTranslateMessage(tab));
+        EXPECT_EQ(GetFocus(), hosted.Window(next)) << ToUtf8(next);
+    }
 }
 
 TEST_F(HostFormTest, AHiddenControlThatHadTheFocusStaysHiddenWhenTheFormGetsItBack)
@@ -162,7 +158,7 @@ TEST_F(HostFormTest, TheParentFormAnswersHwndAndControls)
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << ToUtf8(ViewOf(c.name)));
         OleVariant item, name;
-        EXCEPINFO error {};
+        test::ExceptionInfo error;
         const HRESULT hr
             = test::Call(collection, DISPID_VALUE, DISPATCH_METHOD | DISPATCH_PROPERTYGET, { c.key }, item, &error);
         if (c.scode == S_OK) {
@@ -174,9 +170,6 @@ TEST_F(HostFormTest, TheParentFormAnswersHwndAndControls)
         EXPECT_EQ(hr, DISP_E_EXCEPTION);
         EXPECT_EQ(error.scode, c.scode);
         EXPECT_EQ(FromBstr(error.bstrDescription), FromWide(c.name));
-        SysFreeString(error.bstrSource);
-        SysFreeString(error.bstrDescription);
-        SysFreeString(error.bstrHelpFile);
     }
 }
 

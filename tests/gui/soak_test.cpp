@@ -5,6 +5,7 @@
 #include "platform/win32/com/bstr.h"
 #include "platform/win32/com/control_class.h"
 #include "tests/gui/atl_hosted.h"
+#include "tests/win32/support/every_control.h"
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -151,8 +152,7 @@ TEST_P(Soak, CreatingLoadingAndDestroyingLeavesNothingBehind)
     ExpectFlat("create/load/destroy cycles", Name(), cycles, before, Resources::Now());
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryControl, Soak, testing::ValuesIn(ControlClasses()),
-    [](const testing::TestParamInfo<const ControlClass*>& info) { return ToUtf8(FromWide(info.param->name)); });
+INSTANTIATE_TEST_SUITE_P(EveryControl, Soak, testing::ValuesIn(ControlClasses()), ClassName);
 
 } // namespace
 } // namespace tolva::win32::test

@@ -142,13 +142,6 @@ TEST_F(SurfaceOnWindow, RefreshPaintsAtOnceAndVisibilityAndEnabledReachTheWindow
     EXPECT_TRUE(painter.downs.empty());
 }
 
-TEST_F(SurfaceOnWindow, ScreenOriginIsTheClientAreasCorner)
-{
-    POINT corner { 0, 0 };
-    ClientToScreen(surface.Window(), &corner);
-    EXPECT_EQ(surface.ScreenOrigin(), (PixelPoint { corner.x, corner.y }));
-}
-
 TEST_F(SurfaceOnWindow, ChildrenGetWindowsInsideTheirParentsAndPaintIntoDrawTo)
 {
     std::unique_ptr<Surface> child = surface.CreateChild();
