@@ -46,19 +46,12 @@ TEST_F(ListTest, ColumnsAreSavedAsFourArrays)
     MemoryPropertyBag bag;
     list.WriteProperties(bag);
     EXPECT_EQ(bag.Operations(), WithArrays(OperationKind::Write, Variant(), 2));
-    const auto value = [&bag](const char16_t* key) {
-        const Variant* v = bag.Find(key);
-        return v ? *v : Variant(u"(missing)");
-    };
-    EXPECT_EQ(value(u"ColumnCount"), Variant(int32_t(2)));
-    EXPECT_EQ(value(u"ColumnTextCount"), Variant(int32_t(2)));
-    EXPECT_EQ(value(u"ColumnText1"), Variant(u"Date"));
-    EXPECT_EQ(value(u"ColumnText2"), Variant(u"Amount"));
-    EXPECT_EQ(value(u"ColumnAlignment1"), Variant(int32_t(0)));
-    EXPECT_EQ(value(u"ColumnAlignment2"), Variant(int32_t(1)));
-    EXPECT_EQ(value(u"ColumnWidth2"), Variant(int32_t(1500)));
-    EXPECT_EQ(value(u"ColumnFormat1"), Variant(u""));
-    EXPECT_EQ(value(u"ColumnFormat2"), Variant(u""));
+    const std::vector<std::pair<String, Variant>> saved { { u"Font", site.ambientFont }, { u"ColumnCount", 2 },
+        { u"ColumnAlignmentCount", 2 }, { u"ColumnAlignment1", 0 }, { u"ColumnAlignment2", 1 },
+        { u"ColumnFormatCount", 2 }, { u"ColumnFormat1", u"" }, { u"ColumnFormat2", u"" }, { u"ColumnTextCount", 2 },
+        { u"ColumnText1", u"Date" }, { u"ColumnText2", u"Amount" }, { u"ColumnWidthCount", 2 },
+        { u"ColumnWidth1", 1200 }, { u"ColumnWidth2", 1500 } };
+    EXPECT_EQ(bag.Entries(), saved);
 }
 
 TEST_F(ListTest, ReadsItsKeysInTheSameOrderWithTheSameDefaults)

@@ -105,11 +105,8 @@ TEST_F(TabsTest, AnIndexOutsideTheArraysIsTheSubscriptError)
     EXPECT_EQ(RunTimeErrorOf([&] { tabs.TabData(3); }), 9);
     EXPECT_EQ(RunTimeErrorOf([&] { tabs.SetTabData(3, 1); }), 9);
     EXPECT_EQ(tabs.Tabs(0), u"") << "element 0 exists, unused";
-}
 
-TEST_F(TabsTest, AddItemGivesTheNewTabNoData)
-{
-    AddTabs({ u"One", u"Two" });
+    // AddItem gives the new tab no data.
     tabs.SetTabData(2, 5);
     tabs.RemoveItem(1);
     tabs.AddItem(u"New");
