@@ -21,6 +21,7 @@ public:
     virtual void OnMouseDown(int16_t /*button*/, int16_t /*shift*/, float /*x*/, float /*y*/) { }
     virtual void OnMouseMove(int16_t /*button*/, int16_t /*shift*/, float /*x*/, float /*y*/) { }
     virtual void OnMouseUp(int16_t /*button*/, int16_t /*shift*/, float /*x*/, float /*y*/) { }
+    virtual void OnGotFocus() { }
 
 protected:
     ~TextBoxListener() = default;

@@ -52,16 +52,27 @@ PageTextBox::~PageTextBox()
     m_box->SetListener(nullptr);
 }
 
-void PageTextBox::SelectAllAndFocus()
+void PageTextBox::SelectAll()
 {
     m_box->SetSelStart(0);
     m_box->SetSelLength(int32_t(m_box->Text().size()));
+}
+
+void PageTextBox::SelectAllAndFocus()
+{
+    SelectAll();
     m_box->SetFocus();
 }
 
 void PageTextBox::OnChange()
 {
     m_onChange();
+}
+
+void PageTextBox::OnGotFocus()
+{
+    if (m_selectsAllOnFocus)
+        SelectAll();
 }
 
 } // namespace tolva

@@ -83,12 +83,17 @@ public:
     void SetText(StringView text) { m_box->SetText(text); }
     // Selects the whole text and takes the focus, ready to be typed over.
     void SelectAllAndFocus();
+    // From now on, gaining the focus selects the whole text.
+    void SelectAllOnFocus() { m_selectsAllOnFocus = true; }
 
 private:
     void OnChange() override;
+    void OnGotFocus() override;
+    void SelectAll();
 
     std::unique_ptr<TextBox> m_box;
     std::function<void()> m_onChange;
+    bool m_selectsAllOnFocus = false;
 };
 
 } // namespace tolva

@@ -13,6 +13,8 @@ ppgInput::ppgInput(Surface& surface, ControlSite& site)
     AddTitle(PageLayout::Title());
     AddLabel(u"Text", PageLayout::Label(0));
     AddLabel(u"MaxLength", PageLayout::Label(1));
+    m_txtText.SelectAllOnFocus();
+    m_txtMaxLength.SelectAllOnFocus();
 }
 
 void ppgInput::SelectionChanged()

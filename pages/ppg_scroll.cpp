@@ -10,6 +10,7 @@ ppgScroll::ppgScroll(Surface& surface, ControlSite& site)
     for (size_t i = 0; i < Properties.size(); ++i) {
         AddLabel(Properties[i], PageLayout::Label(int(i)));
         m_boxes[i] = &AddTextBox(PageLayout::Field(int(i), 1200));
+        m_boxes[i]->SelectAllOnFocus();
     }
 }
 

@@ -131,6 +131,8 @@ void HeadlessTextBox::OnKeyUp(int16_t& keyCode, int16_t& shift)
 void HeadlessTextBox::OnGotFocus()
 {
     LookChanged();
+    if (TextBoxListener* listener = Listener())
+        listener->OnGotFocus();
 }
 
 void HeadlessTextBox::OnLostFocus()

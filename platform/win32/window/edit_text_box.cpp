@@ -278,9 +278,13 @@ LRESULT EditTextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         return OnMouse(message, wParam, lParam);
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
+        const std::weak_ptr<int> alive = m_lifetime;
         const LRESULT result = CallEdit(message, wParam, lParam);
         if (m_owner)
             m_owner->FocusMovedInside(message == WM_SETFOCUS, reinterpret_cast<HWND>(wParam));
+        if (message == WM_SETFOCUS && !alive.expired())
+            if (TextBoxListener* listener = Listener())
+                listener->OnGotFocus();
         return result;
     }
     case OCM_COMMAND:

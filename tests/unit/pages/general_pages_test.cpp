@@ -2,6 +2,7 @@
 #include "pages/ppg_input.h"
 #include "pages/ppg_label.h"
 #include "pages/ppg_list_general.h"
+#include "pages/ppg_scroll.h"
 #include "tests/unit/pages/page_test_fixture.h"
 
 namespace tolva {
@@ -120,6 +121,25 @@ TEST_F(InputPageTest, AppliesInOrderAndConvertsMaxLength)
 
     page.txtMaxLength().SetText(u"forty");
     EXPECT_THROW(page.Apply(), AutomationError);
+}
+
+// The text fields of the input and scroll pages select all of their text when they gain the
+// focus, ready to be typed over.
+TEST(PageTextFields, SelectTheirWholeTextOnTheFocus)
+{
+    const auto check = [](PageTextBox& field) {
+        field.SetText(u"120");
+        field->SetSelStart(1);
+        field->SetFocus();
+        EXPECT_EQ(field->SelStart(), 0);
+        EXPECT_EQ(field->SelLength(), 3);
+    };
+    PageHarness<ppgInput> input;
+    check(input.page.txtText());
+    check(input.page.txtMaxLength());
+    PageHarness<ppgScroll> scroll;
+    for (size_t i = 0; i < ppgScroll::Properties.size(); ++i)
+        check(scroll.page.Box(i));
 }
 
 using ListGeneralPageTest = PageTest<ppgListGeneral>;
