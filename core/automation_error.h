@@ -32,7 +32,6 @@ constexpr int OutOfMemory = 7;
 constexpr int SubscriptOutOfRange = 9;
 constexpr int DivisionByZero = 11;
 constexpr int TypeMismatch = 13;
-constexpr int ObjectNotSet = 91;
 constexpr int InvalidPropertyValue = 380;
 }
 

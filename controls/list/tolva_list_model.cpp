@@ -11,12 +11,12 @@ constexpr int32_t RowTextOutOfRange = int32_t(0x80040000u + 22001u);
 } // namespace
 
 // The items of a column, as the array of collections hands them out: an index outside the
-// array is Subscript out of range, a column RemoveColumn released has none (error 91).
+// array, and a column whose items RemoveColumn released, are Subscript out of range.
 tkRows& TolvaList::RowsOf(const Variant& column) const
 {
     const std::unique_ptr<tkRows>& rows = m_rows[column.ToInt32()];
     if (!rows)
-        throw AutomationError::RunTime(RunTimeError::ObjectNotSet);
+        throw AutomationError::RunTime(RunTimeError::SubscriptOutOfRange);
     return *rows;
 }
 

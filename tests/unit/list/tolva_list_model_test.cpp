@@ -110,11 +110,11 @@ TEST_F(ListTest, RemoveColumnMovesOnlyTheCells)
     EXPECT_EQ(list.ColumnCount(), 3);
     EXPECT_EQ(ToUtf8(list.ColumnText(2)), "Column 2");
     EXPECT_EQ(Cell(1, 2), "r1c3");
-    EXPECT_EQ(RunTimeErrorOf([&] { list.RowText(1, 3); }), RunTimeError::ObjectNotSet);
+    EXPECT_EQ(RunTimeErrorOf([&] { list.RowText(1, 3); }), RunTimeError::SubscriptOutOfRange);
     EXPECT_TRUE(site.propertyChanges.empty());
     EXPECT_EQ(surface.PresentCount(), presents);
     // The row is added to the columns before the released one, then the error stops it.
-    EXPECT_EQ(RunTimeErrorOf([&] { list.AddRow(); }), RunTimeError::ObjectNotSet);
+    EXPECT_EQ(RunTimeErrorOf([&] { list.AddRow(); }), RunTimeError::SubscriptOutOfRange);
     EXPECT_EQ(list.RowCount(), 2);
     EXPECT_EQ(RunTimeErrorOf([&] { list.RemoveColumn(-1); }), RunTimeError::SubscriptOutOfRange);
 }
