@@ -29,6 +29,15 @@ void Canvas::Frame(const Rect& rect, ColorRef color)
     FillRect(rect.right - 1, rect.top, rect.right, rect.bottom, color);
 }
 
+void Canvas::DrawCharacters(
+    int32_t x, int32_t y, StringView text, std::span<const int32_t> steps, const CanvasFont& font, ColorRef color)
+{
+    for (size_t i = 0; i < text.size() && i < steps.size(); ++i) {
+        DrawText(x, y, text.substr(i, 1), font, color);
+        x += steps[i];
+    }
+}
+
 void Canvas::SetOrigin(PixelPoint origin)
 {
     m_origin = { Bounded(origin.x), Bounded(origin.y) };

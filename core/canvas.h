@@ -3,6 +3,7 @@
 #include "core/rect.h"
 #include "core/string.h"
 #include <cstdint>
+#include <span>
 
 namespace tolva {
 
@@ -45,6 +46,11 @@ public:
 
     // Text with a transparent background, its cell's top-left corner at (x, y).
     virtual void DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color) = 0;
+    // Each character of text as DrawText draws it alone, the first at x and each next one
+    // steps[i] pixels after the one before; nothing is shaped or joined across characters.
+    // steps holds one step per character.
+    virtual void DrawCharacters(
+        int32_t x, int32_t y, StringView text, std::span<const int32_t> steps, const CanvasFont& font, ColorRef color);
     virtual TextExtent MeasureText(StringView text, const CanvasFont& font) = 0;
 
     // The RGB value of a system colour index (the low byte of a system OLE colour).

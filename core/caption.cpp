@@ -32,14 +32,12 @@ ScannedCaption ScanCaption(StringView caption)
     return scanned;
 }
 
-ScannedCaption ScanCaption(StringView caption, Surface& surface)
-{
-    ScannedCaption scanned = ScanCaption(caption);
-    surface.SetAccessKeys(scanned.HasAccessKey() ? String(1, scanned.AccessCharacter()) : String());
-    return scanned;
-}
-
 namespace {
+
+void SetAccessKey(Surface& surface, const ScannedCaption& scanned)
+{
+    surface.SetAccessKeys(scanned.HasAccessKey() ? String(1, scanned.AccessCharacter()) : String());
+}
 
 // The fonts DrawCaptionText creates: the surface's font with a cell height of 1.6 pixels per
 // point, rounded as a whole-number argument is (half to even).
@@ -51,39 +49,50 @@ CanvasFont CaptionFont(const Font& font, bool underline)
     return canvasFont;
 }
 
-// The advance of one character: its width in the surface's own font plus the spacing.
-int32_t Advance(Canvas& canvas, const CanvasFont& measureFont, char16_t character, int32_t letterSpacing)
-{
-    return canvas.MeasureText(StringView(&character, 1), measureFont).width + letterSpacing;
-}
-
 } // namespace
 
-void DrawCaptionText(
-    Canvas& canvas, Surface& surface, StringView caption, Rect rect, int32_t letterSpacing, ColorRef color)
+ScannedCaption ScanCaption(StringView caption, Surface& surface)
 {
-    const ScannedCaption scanned = ScanCaption(caption, surface);
-    const Font font = surface.GetFont();
-    const CanvasFont measureFont = ToCanvasFont(font);
-    const CanvasFont plain = CaptionFont(font, font.underline);
-    const CanvasFont underlined = CaptionFont(font, true);
-    int32_t x = rect.left;
-    for (size_t i = 0; i < scanned.text.size(); ++i) {
-        const bool access = int(i) + 1 == scanned.accessPosition;
-        const char16_t character = scanned.text[i];
-        canvas.DrawText(x, rect.top, StringView(&character, 1), access ? underlined : plain, color);
-        x += Advance(canvas, measureFont, character, letterSpacing);
-    }
+    ScannedCaption scanned = ScanCaption(caption);
+    SetAccessKey(surface, scanned);
+    return scanned;
 }
 
-int32_t MeasureCaptionText(Canvas& canvas, Surface& surface, StringView caption, int32_t letterSpacing)
+CaptionLayout LayOutCaption(Canvas& canvas, const Surface& surface, StringView caption, int32_t letterSpacing)
 {
-    const ScannedCaption scanned = ScanCaption(caption);
+    CaptionLayout layout { ScanCaption(caption), {}, 0 };
     const CanvasFont measureFont = ToCanvasFont(surface.GetFont());
-    int32_t width = 0;
-    for (char16_t character : scanned.text)
-        width += Advance(canvas, measureFont, character, letterSpacing);
-    return width;
+    layout.steps.reserve(layout.scanned.text.size());
+    for (char16_t character : layout.scanned.text) {
+        layout.steps.push_back(canvas.MeasureText(StringView(&character, 1), measureFont).width + letterSpacing);
+        layout.width += layout.steps.back();
+    }
+    return layout;
+}
+
+// The characters before the access character, the access character underlined, then the rest,
+// each piece in one call.
+void DrawCaptionText(Canvas& canvas, Surface& surface, const CaptionLayout& layout, Rect rect, ColorRef color)
+{
+    SetAccessKey(surface, layout.scanned);
+    const Font font = surface.GetFont();
+    const CanvasFont plain = CaptionFont(font, font.underline);
+    const CanvasFont underlined = CaptionFont(font, true);
+    const StringView text = layout.scanned.text;
+    const std::span<const int32_t> steps = layout.steps;
+    size_t begin = 0;
+    int32_t x = rect.left;
+    const auto drawUpTo = [&](size_t end, const CanvasFont& pieceFont) {
+        canvas.DrawCharacters(x, rect.top, text.substr(begin, end - begin), steps.subspan(begin, end - begin),
+            pieceFont, color);
+        for (; begin < end; ++begin)
+            x += steps[begin];
+    };
+    if (const auto access = size_t(layout.scanned.accessPosition); access > 0) {
+        drawUpTo(access - 1, plain);
+        drawUpTo(access, underlined);
+    }
+    drawUpTo(text.size(), plain);
 }
 
 } // namespace tolva

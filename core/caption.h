@@ -2,6 +2,7 @@
 #include "core/canvas.h"
 #include "core/string.h"
 #include "core/surface.h"
+#include <vector>
 
 namespace tolva {
 
@@ -24,13 +25,20 @@ ScannedCaption ScanCaption(StringView caption);
 // Scans the caption and sets the surface's access-key list to its access character (or clears it).
 ScannedCaption ScanCaption(StringView caption, Surface& surface);
 
-// Draws a caption one character at a time from the rectangle's top-left corner, the access
-// character underlined, each step the character's width in the surface's font plus
-// letterSpacing pixels. The fonts are the surface's font at a height of 1.6 pixels per point.
-void DrawCaptionText(Canvas& canvas, Surface& surface, StringView caption, Rect rect, int32_t letterSpacing,
-                     ColorRef color);
+// A scanned caption with the step after each of its characters: the character's width in the
+// surface's font plus the letter spacing, in pixels.
+struct CaptionLayout {
+    ScannedCaption scanned;
+    std::vector<int32_t> steps;
+    int32_t width = 0; // the sum of the steps
+};
 
-// The width in pixels that DrawCaptionText advances over the whole scanned caption.
-int32_t MeasureCaptionText(Canvas& canvas, Surface& surface, StringView caption, int32_t letterSpacing);
+// Scans and measures a caption; the surface's access-key list is left as it is.
+CaptionLayout LayOutCaption(Canvas& canvas, const Surface& surface, StringView caption, int32_t letterSpacing);
+
+// Draws a laid-out caption one character after another from the rectangle's top-left corner, the
+// access character underlined, and sets the surface's access-key list to it. The fonts are the
+// surface's font at a height of 1.6 pixels per point.
+void DrawCaptionText(Canvas& canvas, Surface& surface, const CaptionLayout& layout, Rect rect, ColorRef color);
 
 } // namespace tolva

@@ -57,15 +57,15 @@ void TolvaLabel::DrawLabel()
     canvas.FillRect(0, 0, width, height, Untranslated(back));
 
     const int32_t letterSpacing = m_kerning ? 2 : 0;
-    const int32_t captionWidth = MeasureCaptionText(canvas, m_surface, m_caption, letterSpacing);
+    const CaptionLayout caption = LayOutCaption(canvas, m_surface, m_caption, letterSpacing);
     const double spaceHeight
         = double(canvas.MeasureText(u" ", ToCanvasFont(m_surface.GetFont())).height) * m_surface.TwipsPerPixelY();
     Rect text { 0, RoundToLong(scaleHeight / 30 - spaceHeight / 30 - 1), width, height };
     if (m_alignment == tkLabelAlignment::tkAlignCenter)
-        text.left = RoundToLong(scaleWidth / 30 - double(captionWidth) / 2);
+        text.left = RoundToLong(scaleWidth / 30 - double(caption.width) / 2);
     else
         text.left = m_arrowPosition == tkArrowPosition::tkLeft ? 16 : 6;
-    DrawCaptionText(canvas, m_surface, m_caption, text, letterSpacing, Untranslated(fore));
+    DrawCaptionText(canvas, m_surface, caption, text, Untranslated(fore));
 
     const int32_t glyphY = RoundToLong(scaleHeight / 30 - 3);
     LinePen pen(canvas, Untranslated(fore));
@@ -74,7 +74,7 @@ void TolvaLabel::DrawLabel()
         DrawArrowGlyph(pen, m_arrowIcon, m_arrowPosition, 4, glyphY);
         break;
     case tkArrowPosition::tkRight:
-        DrawArrowGlyph(pen, m_arrowIcon, m_arrowPosition, 10 + captionWidth, glyphY);
+        DrawArrowGlyph(pen, m_arrowIcon, m_arrowPosition, 10 + caption.width, glyphY);
         break;
     case tkArrowPosition::tkEnd:
         DrawArrowGlyph(pen, m_arrowIcon, m_arrowPosition, RoundToLong(scaleWidth / 15 - 9), glyphY);

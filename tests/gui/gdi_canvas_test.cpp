@@ -1,6 +1,8 @@
 #include "platform/win32/gdi/gdi_canvas.h"
 #include "tests/gui/gui_support.h"
 #include <functional>
+#include <string>
+#include <vector>
 #include <gtest/gtest.h>
 
 namespace tolva::win32 {
@@ -77,6 +79,50 @@ TEST(GdiCanvas, MeasuresWiderTextWiderAndAnEmptyTextAsOneLineHigh)
     EXPECT_EQ(none.width, 0);
     EXPECT_EQ(none.height, one.height);
     EXPECT_GT(canvas.MeasureText(u"W", SansFont(-26)).height, one.height);
+}
+
+// Characters drawn in one go land exactly where and as they land drawn one by one: with steps
+// narrower than the glyphs (overlapping) and wider, in fonts whose glyphs overhang, and in the
+// cases that must not be drawn as a run (a line under or through the text, joined scripts).
+TEST(GdiCanvas, DrawsCharactersAtTheirStepsAsIfOneByOne)
+{
+    const auto font = [](const char16_t* face, int32_t height, int32_t weight, bool italic, bool underline,
+                          bool strikeOut) {
+        CanvasFont made = SansFont(height);
+        made.face = face;
+        made.weight = weight;
+        made.italic = italic;
+        made.underline = underline;
+        made.strikeOut = strikeOut;
+        return made;
+    };
+    const struct {
+        const char* name;
+        std::u16string text;
+        CanvasFont font;
+        int32_t shrink; // pixels taken off each character's own width to make its step
+    } cases[] = {
+        { "plain", u"Next page", font(u"MS Sans Serif", 13, 400, false, false, false), 0 },
+        { "overlapping", u"Wxyz Aj", font(u"MS Sans Serif", 13, 400, false, false, false), 3 },
+        { "spaced bold", u"Hello, all", font(u"Tahoma", 19, 700, false, false, false), -2 },
+        { "italic overhang", u"fjfW", font(u"Tahoma", 24, 400, true, false, false), 1 },
+        { "underlined", u"li Wl", font(u"Tahoma", 16, 400, false, true, false), 1 },
+        { "struck out", u"li Wl", font(u"Tahoma", 16, 400, false, false, true), -1 },
+        { "joining script", u"\u0644\u0627\u0645 e\u0301", font(u"Tahoma", 16, 400, false, false, false), 0 },
+    };
+    for (const auto& c : cases) {
+        GdiCanvas together(nullptr, 160, 40), alone(nullptr, 160, 40);
+        std::vector<int32_t> steps;
+        for (char16_t character : c.text)
+            steps.push_back(together.MeasureText(StringView(&character, 1), c.font).width - c.shrink);
+        for (GdiCanvas* canvas : { &together, &alone })
+            canvas->FillRect(0, 0, 160, 40, White);
+        together.DrawCharacters(3, 5, c.text, steps, c.font, Blue);
+        alone.Canvas::DrawCharacters(3, 5, c.text, steps, c.font, Blue);
+        const Pixels got = Read(together), want = Read(alone);
+        EXPECT_EQ(got.DifferencesFrom(want), 0) << c.name;
+        EXPECT_GT(160 * 40 - want.Count(White), 20) << c.name;
+    }
 }
 
 TEST(GdiCanvas, ClampsImpossibleSizesAndStillDraws)

@@ -20,6 +20,12 @@ int Count(StringView text)
     return int(std::min<size_t>(text.size(), INT_MAX));
 }
 
+// Below the combining marks no character is shaped, reordered or made of two code units.
+bool DrawnAlikeInARun(StringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](char16_t character) { return character < 0x300; });
+}
+
 // A bitmap of at least one pixel (an empty one is not a valid selection target): in the format
 // of the given device context, or for the screen a 32-bit DIB section, which Wine makes several
 // times faster than a screen-compatible bitmap and which copies to any window.
@@ -68,15 +74,33 @@ void GdiCanvas::Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef co
     LineTo(m_dc.Get(), x2, y2);
 }
 
-void GdiCanvas::DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color)
+bool GdiCanvas::PrepareText(const CanvasFont& font, ColorRef color)
 {
-    if (text.empty() || !m_objects.SelectFont(font))
-        return;
+    if (!m_objects.SelectFont(font))
+        return false;
     if (color != m_textColor) {
         SetTextColor(m_dc.Get(), color);
         m_textColor = color;
     }
-    ExtTextOutW(m_dc.Get(), x, y, 0, nullptr, Wide(text), UINT(Count(text)), nullptr);
+    return true;
+}
+
+void GdiCanvas::DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color)
+{
+    if (!text.empty() && PrepareText(font, color))
+        ExtTextOutW(m_dc.Get(), x, y, 0, nullptr, Wide(text), UINT(Count(text)), nullptr);
+}
+
+// One call places every character at its step, which draws each glyph where and as it would be
+// drawn alone, unless a line runs under or through the text (it would span the whole run) or a
+// character may be shaped, reordered or paired with its neighbours.
+void GdiCanvas::DrawCharacters(
+    int32_t x, int32_t y, StringView text, std::span<const int32_t> steps, const CanvasFont& font, ColorRef color)
+{
+    if (font.underline || font.strikeOut || steps.size() < text.size() || !DrawnAlikeInARun(text))
+        Canvas::DrawCharacters(x, y, text, steps, font, color);
+    else if (!text.empty() && PrepareText(font, color))
+        ExtTextOutW(m_dc.Get(), x, y, 0, nullptr, Wide(text), UINT(Count(text)), steps.data());
 }
 
 TextExtent GdiCanvas::MeasureText(StringView text, const CanvasFont& font)

@@ -26,6 +26,8 @@ public:
     void FillRect(int32_t left, int32_t top, int32_t right, int32_t bottom, ColorRef color) override;
     void Line(int32_t x1, int32_t y1, int32_t x2, int32_t y2, ColorRef color) override;
     void DrawText(int32_t x, int32_t y, StringView text, const CanvasFont& font, ColorRef color) override;
+    void DrawCharacters(int32_t x, int32_t y, StringView text, std::span<const int32_t> steps, const CanvasFont& font,
+        ColorRef color) override;
     TextExtent MeasureText(StringView text, const CanvasFont& font) override;
     ColorRef SystemColor(int index) const override;
 
@@ -41,6 +43,9 @@ protected:
     void OnDrawingAreaChanged() override;
 
 private:
+    // Selects the font and sets the text colour; false when the font cannot be made.
+    bool PrepareText(const CanvasFont& font, ColorRef color);
+
     int32_t m_width;
     int32_t m_height;
     DrawingObjects m_objects { m_dc }; // before the device context: deleted after it

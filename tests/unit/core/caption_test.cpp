@@ -63,7 +63,7 @@ protected:
     int32_t SecondGlyphColumn(int32_t letterSpacing)
     {
         RasterCanvas canvas(80, 30);
-        DrawCaptionText(canvas, surface, u"ll", { 5, 2, 80, 30 }, letterSpacing, Ink);
+        DrawCaptionText(canvas, surface, LayOutCaption(canvas, surface, u"ll", letterSpacing), { 5, 2, 80, 30 }, Ink);
         const int32_t first = *FirstColumnWith(canvas, Ink);
         int32_t x = first;
         while (FirstColumnWith(canvas, Ink, x) == x)
@@ -83,18 +83,18 @@ TEST_F(DrawCaptionTextTest, StepsEachCharacterByItsWidthInTheSurfacesFontPlusThe
     ASSERT_GT(advance, 0);
     const int32_t tight = SecondGlyphColumn(0);
     EXPECT_EQ(SecondGlyphColumn(2), tight + 2);
-    EXPECT_EQ(MeasureCaptionText(canvas, surface, u"ll", 0), 2 * advance);
-    EXPECT_EQ(MeasureCaptionText(canvas, surface, u"ll", 2), 2 * advance + 4);
+    EXPECT_EQ(LayOutCaption(canvas, surface, u"ll", 0).width, 2 * advance);
+    EXPECT_EQ(LayOutCaption(canvas, surface, u"ll", 2).width, 2 * advance + 4);
     // Marks take no room: "&l&&" is drawn as "l&".
     const int32_t ampersand = canvas.MeasureText(u"&", ToCanvasFont(surface.GetFont())).width;
-    EXPECT_EQ(MeasureCaptionText(canvas, surface, u"&l&&", 2), advance + ampersand + 4);
+    EXPECT_EQ(LayOutCaption(canvas, surface, u"&l&&", 2).width, advance + ampersand + 4);
 }
 
 TEST_F(DrawCaptionTextTest, UnderlinesOnlyTheAccessCharacterAndSetsTheAccessKey)
 {
     RasterCanvas plain(80, 30), marked(80, 30);
-    DrawCaptionText(plain, surface, u"xx", { 0, 0, 80, 30 }, 0, Ink);
-    DrawCaptionText(marked, surface, u"x&x", { 0, 0, 80, 30 }, 0, Ink);
+    DrawCaptionText(plain, surface, LayOutCaption(plain, surface, u"xx", 0), { 0, 0, 80, 30 }, Ink);
+    DrawCaptionText(marked, surface, LayOutCaption(marked, surface, u"x&x", 0), { 0, 0, 80, 30 }, Ink);
     EXPECT_EQ(surface.AccessKeys(), u"x");
     const int32_t advance = plain.MeasureText(u"x", ToCanvasFont(surface.GetFont())).width;
     int differencesInFirst = 0, differencesInSecond = 0;
@@ -116,7 +116,7 @@ TEST_F(DrawCaptionTextTest, DrawsWithACellHeightOf16TenthsOfAPixelPerPoint)
     CanvasFont cell = ToCanvasFont(big);
     cell.height = 32;
     RasterCanvas drawn(60, 60), expected(60, 60);
-    DrawCaptionText(drawn, surface, u"H", { 3, 4, 60, 60 }, 0, Ink);
+    DrawCaptionText(drawn, surface, LayOutCaption(drawn, surface, u"H", 0), { 3, 4, 60, 60 }, Ink);
     expected.DrawText(3, 4, u"H", cell, Ink);
     EXPECT_EQ(Runs(drawn, { { Ink, 'i' } }), Runs(expected, { { Ink, 'i' } }));
 }
